@@ -1,0 +1,60 @@
+#include "app/modDiff.h"
+
+#include "app/frmSplash.h"
+#include "compare/FileDiffEngine.h"
+#include "compare/ViewOptions.h"
+#include "frame/EngineLibraries.h"
+#include "frame/ErrorReporter.h"
+#include "frame/Globals.h"
+#include "frame/KWCommon.h"
+#include "frame/Prompter.h"
+#include "results/frmFileDiffs.h"
+#include "settings/ExtractionOptions.h"
+
+#include <filesystem>
+
+namespace orvane {
+namespace {
+
+void ShowMissingLibraryBox(const std::string& moduleName) {
+    prompter().MsgBox("Module Name: " + moduleName +
+                          "\r\n\r\nOne of the DLLs or OCXs required by Orvane is not properly "
+                          "installed.\r\nPlease uninstall Orvane from Control Panel --> "
+                          "Add/Remove Programs then\r\nreinstall Orvane.\r\n",
+                      MsgIcon::Critical, "Problem with a required DLL/OCX");
+}
+
+void ShowMainWindow(const std::string& commandLine) {
+    auto* window = new frmFileDiffs;
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->Form_Load(commandLine);
+}
+
+} // namespace
+
+bool Main(const std::string& appFolder, const std::string& commandLine) {
+    std::string moduleName;
+    try {
+        gAppPath = AddTrailingBackslash(appFolder);
+        if (!ProbeRequiredEngines(gAppPath, moduleName))
+            throw RuntimeError(err::CannotCreateObject);
+        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+        moduleName = EngineFileName(Engine::LineDiff);
+        gFileDiff = std::make_unique<FileDiffEngine>();
+        gExtractionOptions = std::make_unique<clsExtractionOptions>();
+        gStartDir = AddTrailingBackslash(std::filesystem::current_path().string());
+        auto* splash = new frmSplash([commandLine] { ShowMainWindow(commandLine); });
+        splash->Form_Load();
+        return true;
+    } catch (...) {
+        const ErrorInfo error = CurrentErrorInfo();
+        if (error.Number == err::CannotCreateObject) ShowMissingLibraryBox(moduleName);
+        else if (error.Number != err::ObjectUnloaded)
+            ReportUnexpectedError("modDiff.Main", {}, error);
+        return false;
+    }
+}
+
+void EndProgram() { FreeEngines(); }
+
+} // namespace orvane

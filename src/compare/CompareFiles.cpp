@@ -1,0 +1,202 @@
+// The compare driver: the order of its checks, the branch for each output format and exactly what
+// is said on each way out. Whatever happens, the exit removes the run's temporary files.
+#include "compare/FileDiffEngine.h"
+#include "frame/ErrorReporter.h"
+#include "frame/Globals.h"
+#include "frame/KWCommon.h"
+#include "frame/Prompter.h"
+#include "results/GridFill.h"
+#include "results/frmFileDiffs.h"
+
+#include <QComboBox>
+#include <cctype>
+#include <cstdio>
+
+namespace orvane {
+namespace {
+
+constexpr long kAutomationException = 0x80020009;
+
+const char* SideName(Side side) { return side == Side::Original ? "Original" : "Revised"; }
+
+bool StartsWithWww(const std::string& text) {
+    if (text.size() < 3) return false;
+    for (int i = 0; i < 3; ++i)
+        if (std::toupper(static_cast<unsigned char>(text[i])) != 'W') return false;
+    return true;
+}
+
+void DeleteIf(bool condition, const std::string& path) {
+    if (condition && !path.empty()) std::remove(path.c_str());
+}
+
+} // namespace
+
+void frmFileDiffs::Refuse(const std::string& title, const std::string& text) {
+    if (gViewOptions->RunFromCommandLine) gViewOptions->CommandLineMessage = title + ".  " + text;
+    else prompter().MsgBox(text, MsgIcon::Exclamation, title);
+    ResetResultsDisplay();
+}
+
+// Steps 1 to 6: both inputs present, addresses well formed, local files existing.
+bool frmFileDiffs::CheckInputs(std::string& original, std::string& revised, int types[2]) {
+    original = Trim(cboOriginalFile->currentText().toStdString());
+    if (original.empty()) { // always a box, also in an unattended run
+        prompter().MsgBox("Please specify an Original HTML file.", MsgIcon::Exclamation,
+                          "No Original HTML File");
+        ResetResultsDisplay();
+        return false;
+    }
+    revised = Trim(cboRevisedFile->currentText().toStdString());
+    if (revised.empty()) {
+        Refuse("No Revised HTML File", "Please specify a Revised HTML file.");
+        return false;
+    }
+    const std::string* inputs[2] = {&original, &revised};
+    for (int i = 0; i < 2; ++i) {
+        types[i] = IsWebAddress(*inputs[i]) ? WebAddress : LocalFile;
+        if (types[i] == LocalFile && StartsWithWww(*inputs[i])) {
+            Refuse("Invalid URL Format", "Web Addresses must begin with HTTP://");
+            return false;
+        }
+    }
+    for (Side side : {Side::Original, Side::Revised}) {
+        const int i = side == Side::Original ? 0 : 1;
+        if (types[i] == LocalFile && !FileExists(*inputs[i])) {
+            Refuse("File Does Not Exist",
+                   std::string(SideName(side)) + " file is not an existing file.");
+            return false;
+        }
+    }
+    return true;
+}
+
+void frmFileDiffs::CompareFiles(bool SkipDialogue) {
+    (void)SkipDialogue; // the comparison dialogue is offered once it exists
+    bool gridsFrozen = false;
+    try {
+        std::string original, revised;
+        int types[2] = {LocalFile, LocalFile};
+        if (CheckInputs(original, revised, types)) {
+            SetMousePointer(PointerHourglass);
+            ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);
+            StartAnimation();
+            gridsFrozen = true;
+            PrepareGridForNewComparison(originalGrid_, revisedGrid_);
+            cViewFileDiffsOptions& o = *gViewOptions;
+            o.OriginalFile = original;
+            o.RevisedFile = revised;
+            o.OriginalTextExtracted = false;
+            o.OriginalTextFile.clear();
+            o.RevisedTextExtracted = false;
+            o.RevisedTextFile.clear();
+            o.OriginalSourceType = types[0];
+            o.RevisedSourceType = types[1];
+            o.OriginalDownloadFile.clear();
+            o.RevisedDownloadFile.clear();
+            RunGridPath();
+        }
+    } catch (...) {
+        if (CurrentErrorInfo().Number != kAutomationException)
+            ReportUnexpectedError("frmFileDiffs.CompareFiles");
+    }
+    if (gridsFrozen) {
+        originalGrid_.SetRedraw(true);
+        revisedGrid_.SetRedraw(true);
+    }
+    DeleteTemporaryFiles();
+    StopAnimationAndClearStatus();
+    SetMousePointer(PointerDefault);
+}
+
+void frmFileDiffs::DeleteTemporaryFiles() {
+    if (!gViewOptions) return;
+    const cViewFileDiffsOptions& o = *gViewOptions;
+    DeleteIf(o.OriginalTextExtracted, o.OriginalTextFile);
+    DeleteIf(o.RevisedTextExtracted, o.RevisedTextFile);
+    DeleteIf(o.OriginalSourceType == WebAddress, o.OriginalDownloadFile);
+    DeleteIf(o.RevisedSourceType == WebAddress, o.RevisedDownloadFile);
+}
+
+// Steps 14 and 15: compare line by line, then show the result in the grids.
+void frmFileDiffs::RunGridPath() {
+    std::string message;
+    bool ok = false;
+    CompareFilesAndStoreResultsInGlobalDiffObject(message, ok);
+    if (!ok) {
+        StopAnimationAndClearStatus();
+        prompter().MsgBox(message, MsgIcon::Information, "Compare Files");
+        ResetResultsDisplay();
+        return;
+    }
+    DisplayComparisonResultsInGrid(ok);
+    if (!ok) {
+        StopAnimationAndClearStatus();
+        ResetResultsDisplay();
+        return;
+    }
+    ShowLineDiffPrompt();
+}
+
+void frmFileDiffs::CompareFilesAndStoreResultsInGlobalDiffObject(std::string& Message, bool& Ok) {
+    Ok = false;
+    try {
+        FileDiffEngine& engine = *gFileDiff;
+        engine.IgnoreCaseSwitch(gViewOptions->IgnoreCase);
+        engine.IgnoreWhiteSpaceSwitch(gViewOptions->IgnoreWhiteSpace);
+        engine.ForceTextSwitch(gViewOptions->ForceTextCompare);
+        const std::string original = ComparedFile(*gViewOptions, Side::Original);
+        const std::string revised = ComparedFile(*gViewOptions, Side::Revised);
+        long status = -1;
+        engine.CompareFiles(original, revised, status);
+        switch (status) {
+        case 0: Message = "The files are identical"; break;
+        case 1: {
+            const std::string binary = "Binary files " + original + " " + revised + " differ";
+            const std::string line0 = engine.OutputLineCount() > 0 ? engine.OutputLine(0) : "";
+            if (QString::fromStdString(line0).contains(QString::fromStdString(binary),
+                                                        Qt::CaseInsensitive)) {
+                Message = "The files differ but the differences are not viewable.\r\n"
+                          "One of the files may contain non-ASCII characters. \r\n";
+            } else {
+                Ok = true;
+            }
+            break;
+        }
+        case 2:
+            Message = "Errors encountered comparing the files\r\n\r\n" +
+                      (engine.OutputLineCount() > 0 ? engine.OutputLine(0) : std::string());
+            break;
+        default: Message.clear(); break;
+        }
+    } catch (...) {
+        ReportUnexpectedError("frmFileDiffs.CompareFilesAndStoreResultsInGlobalDiffObject");
+        Ok = false;
+    }
+}
+
+void frmFileDiffs::DisplayComparisonResultsInGrid(bool& Ok) {
+    Ok = false;
+    try {
+        ResetDiffState();
+        const std::string original = ComparedFile(*gViewOptions, Side::Original);
+        const std::string revised = ComparedFile(*gViewOptions, Side::Revised);
+        const bool loaded = LoadFilesIntoGrids(original, revised, originalGrid_, revisedGrid_,
+                                               gViewOptions->ShowLineNumbers);
+        SetMousePointer(PointerDefault);
+        if (!loaded) return;
+        if (!InsertDiffRowsInGrids(*gFileDiff, originalGrid_, revisedGrid_, DiffList_)) return;
+        if (originalGrid_.Rows() > 1 && revisedGrid_.Rows() > 1) {
+            originalGrid_.SetRow(1);
+            revisedGrid_.SetRow(1);
+            UpdateRowArrow();
+        }
+        SetCommandsForResults();
+        Ok = true;
+    } catch (...) {
+        ReportUnexpectedError("frmFileDiffs.DisplayComparisonResultsInGrid");
+        Ok = false;
+    }
+}
+
+} // namespace orvane

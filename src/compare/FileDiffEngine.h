@@ -1,0 +1,36 @@
+#pragma once
+// The line differ as the program sees it: the engine library's C interface behind the six
+// operations the comparison uses.
+#include "compare/DiffRows.h"
+
+#include <string>
+
+struct LdEngine;
+
+namespace orvane {
+
+class FileDiffEngine : public DiffOutput {
+  public:
+    // Binds to the line differ library (loaded from gAppPath). Throws RuntimeError 429 when the
+    // library or its entry points cannot be found.
+    FileDiffEngine();
+    ~FileDiffEngine() override;
+    FileDiffEngine(const FileDiffEngine&) = delete;
+    FileDiffEngine& operator=(const FileDiffEngine&) = delete;
+
+    void IgnoreCaseSwitch(bool on);
+    void IgnoreWhiteSpaceSwitch(bool on);
+    void ForceTextSwitch(bool on);
+    long OutputLineCount() const override;
+    std::string OutputLine(long Index) const override;
+    void CompareFiles(const std::string& OriginalPath, const std::string& RevisedPath,
+                      long& Status);
+
+  private:
+    struct Api;
+    static const Api* LoadApi();
+    const Api* api_;
+    LdEngine* engine_;
+};
+
+} // namespace orvane

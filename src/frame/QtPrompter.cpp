@@ -1,0 +1,60 @@
+#include "frame/QtPrompter.h"
+
+#include "frame/Globals.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QUrl>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace orvane {
+namespace {
+
+QMessageBox::Icon ToQt(MsgIcon icon) {
+    switch (icon) {
+    case MsgIcon::Critical: return QMessageBox::Critical;
+    case MsgIcon::Question: return QMessageBox::Question;
+    case MsgIcon::Exclamation: return QMessageBox::Warning;
+    case MsgIcon::Information: return QMessageBox::Information;
+    case MsgIcon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QString Q(const std::string& s) { return QString::fromStdString(s); }
+
+} // namespace
+
+void QtPrompter::MsgBox(const std::string& text, MsgIcon icon, const std::string& title) {
+    QMessageBox box(ToQt(icon), Q(title), Q(text), QMessageBox::Ok, QApplication::activeWindow());
+    box.exec();
+}
+
+bool QtPrompter::InputBox(const std::string& prompt, const std::string& title,
+                          std::string& value) {
+    bool ok = false;
+    const QString text = QInputDialog::getText(QApplication::activeWindow(), Q(title), Q(prompt),
+                                               QLineEdit::Normal, Q(value), &ok);
+    if (ok) value = text.toStdString();
+    return ok;
+}
+
+bool QtPrompter::OpenFileDialog(const std::string& title, const std::string& filter,
+                                std::string& path) {
+    const QString chosen =
+        QFileDialog::getOpenFileName(QApplication::activeWindow(), Q(title), Q(path), Q(filter));
+    if (chosen.isEmpty()) return false;
+    path = chosen.toStdString();
+    return true;
+}
+
+void QtPrompter::DoEvents() { QCoreApplication::processEvents(); }
+
+void QtPrompter::ShowHelp(int context) {
+    const QString page = context == 7 ? "welcome.html" : "index.html";
+    QDesktopServices::openUrl(QUrl::fromLocalFile(Q(gAppPath) + "help/" + page));
+}
+
+} // namespace orvane

@@ -1,0 +1,123 @@
+#include "results/FlexGridView.h"
+
+#include <QBrush>
+#include <QColor>
+#include <QHeaderView>
+#include <QScrollBar>
+
+namespace orvane {
+namespace {
+
+// Windows-1252 where it differs from Latin-1 (0x80..0x9F); 0 marks the five unassigned bytes.
+constexpr char16_t kCp1252High[32] = {
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+QColor ToQColor(Colour c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+
+} // namespace
+
+QString DecodeCellText(const std::string& bytes, TextEncoding encoding) {
+    if (encoding == TextEncoding::Utf8)
+        return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QString text;
+    text.reserve(static_cast<qsizetype>(bytes.size()));
+    for (unsigned char b : bytes) {
+        const char16_t mapped = b >= 0x80 && b < 0xA0 ? kCp1252High[b - 0x80] : 0;
+        text += QChar(mapped ? mapped : (b >= 0x80 && b < 0xA0 ? 0xFFFD : b));
+    }
+    return text;
+}
+
+FlexGridModel::FlexGridModel(FlexGrid& grid, QObject* parent)
+    : QAbstractTableModel(parent), grid_(grid) {}
+
+int FlexGridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(grid_.Rows() - 1);
+}
+
+int FlexGridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 1; }
+
+QString FlexGridModel::DisplayText(long row) const {
+    return DecodeCellText(grid_.RowText(row), grid_.Encoding());
+}
+
+QVariant FlexGridModel::data(const QModelIndex& index, int role) const {
+    const long row = GridRow(index);
+    if (row >= grid_.Rows()) return {};
+    switch (role) {
+    case Qt::DisplayRole: return DisplayText(row);
+    case Qt::BackgroundRole:
+        if (Colour c = grid_.RowBackColor(row)) return QBrush(ToQColor(c));
+        return {};
+    default: return {};
+    }
+}
+
+QVariant FlexGridModel::headerData(int, Qt::Orientation o, int role) const {
+    if (o == Qt::Horizontal && role == Qt::DisplayRole) return DisplayText(0);
+    if (o == Qt::Horizontal && role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+    return {};
+}
+
+FlexGridView::FlexGridView(FlexGrid& grid, const QString& name, QWidget* parent)
+    : QTableView(parent), grid_(grid), model_(new FlexGridModel(grid, this)) {
+    setObjectName(name);
+    setModel(model_);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setHighlightSections(false);
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setFocusPolicy(Qt::StrongFocus);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideNone);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    grid_.SetObserver([this](GridChange w, long f, long l) { OnGridChange(w, f, l); });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+            [this] { SyncTopRowFromScroll(); });
+}
+
+void FlexGridView::OnGridChange(GridChange what, long first, long last) {
+    switch (what) {
+    case GridChange::Reset:
+        model_->Reset();
+        [[fallthrough]];
+    case GridChange::TopRow:
+        if (!syncing_ && grid_.TopRow() >= 1 && grid_.TopRow() < grid_.Rows()) {
+            syncing_ = true;
+            verticalScrollBar()->setValue(static_cast<int>(grid_.TopRow() - 1));
+            syncing_ = false;
+        }
+        break;
+    case GridChange::Cells:
+        emit model_->dataChanged(model_->index(static_cast<int>(std::max(first, 1L) - 1), 0),
+                                 model_->index(static_cast<int>(std::max(last, 1L) - 1), 0));
+        if (first == 0) emit model_->headerDataChanged(Qt::Horizontal, 0, 0);
+        break;
+    case GridChange::CurrentRow: break;
+    }
+}
+
+void FlexGridView::SyncTopRowFromScroll() {
+    if (syncing_) return;
+    const long top = verticalScrollBar()->value() + 1;
+    if (top < grid_.Rows() && top != grid_.TopRow()) {
+        syncing_ = true;
+        grid_.SetTopRow(top);
+        syncing_ = false;
+        emit TopRowChanged(top);
+    }
+}
+
+void FlexGridView::resizeEvent(QResizeEvent* e) {
+    QTableView::resizeEvent(e);
+    const int rowHeight = std::max(verticalHeader()->defaultSectionSize(), 1);
+    grid_.SetVisibleRowCount(viewport()->height() / rowHeight);
+}
+
+} // namespace orvane

@@ -1,0 +1,97 @@
+#pragma once
+// The main window: two file boxes, the two result grids, the detail pane, and the driver of every
+// comparison.
+#include "compare/DiffRows.h"
+#include "compare/ViewOptions.h"
+#include "results/FlexGrid.h"
+
+#include <QMainWindow>
+#include <string>
+#include <vector>
+
+class QAction;
+class QComboBox;
+class QProgressBar;
+class QTextEdit;
+class QToolBar;
+
+namespace orvane {
+
+class FlexGridView;
+
+inline constexpr const char* kIdlePrompt = "Select two files then press the Compare button";
+inline constexpr const char* kDetailPrompt =
+    "Click on a line in either file to see how it differs from its counterpart in the other file.";
+
+// Values of the window's mouse pointer that the program tests.
+enum MousePointerValue { PointerDefault = 0, PointerHourglass = 11 };
+
+class frmFileDiffs : public QMainWindow {
+    Q_OBJECT
+  public:
+    explicit frmFileDiffs(QWidget* parent = nullptr);
+    ~frmFileDiffs() override;
+
+    // Start-up: options, grids, idle look, then the command line (quoted tokens).
+    void Form_Load(const std::string& commandLine);
+
+    // The one routine through which every comparison runs.
+    void CompareFiles(bool SkipDialogue);
+    void mnuFileCompare_Click();
+
+    void CompareFilesAndStoreResultsInGlobalDiffObject(std::string& Message, bool& Ok);
+    void DisplayComparisonResultsInGrid(bool& Ok);
+    void ResetResultsDisplay();
+    void ShowLineDiffPrompt();
+    void ShowGridsOrVisualReport(bool ShowGrids);
+    void StartAnimation();
+    void StopAnimationAndClearStatus();
+    void ResetDiffState();
+    void UpdateRowArrow();
+    void SetCommandsForResults();
+    void SetCommandsForNoResults();
+
+    // What tests and other parts read.
+    FlexGrid& OriginalGrid() { return originalGrid_; }
+    FlexGrid& RevisedGrid() { return revisedGrid_; }
+    const DiffList& Diffs() const { return DiffList_; }
+    int MousePointer() const { return mousePointer_; }
+    QComboBox* OriginalFileBox() const { return cboOriginalFile; }
+    QComboBox* RevisedFileBox() const { return cboRevisedFile; }
+    bool ResultsShown() const;
+
+  protected:
+    void closeEvent(QCloseEvent* e) override;
+
+  private:
+    void BuildWidgets();
+    void BuildCommands();
+    void SetMousePointer(int value);
+    void Form_Unload();
+    // The driver's steps, one routine per concern.
+    bool CheckInputs(std::string& original, std::string& revised, int types[2]);
+    void Refuse(const std::string& title, const std::string& text);
+    void RunGridPath();
+    void DeleteTemporaryFiles();
+
+    FlexGrid originalGrid_;
+    FlexGrid revisedGrid_;
+    FlexGridView* grdOriginalFile = nullptr;
+    FlexGridView* grdRevisedFile = nullptr;
+    QComboBox* cboOriginalFile = nullptr;
+    QComboBox* cboRevisedFile = nullptr;
+    QTextEdit* rtfLineDiff[2] = {nullptr, nullptr};
+    QProgressBar* Animation1 = nullptr;
+    QToolBar* tbrMain = nullptr;
+    QAction* mnuFileCompare = nullptr;
+    QAction* mnuFileExit = nullptr;
+
+    DiffList DiffList_;
+    std::vector<long> BookmarkList;
+    std::vector<std::string> SearchTextList;
+    long PreviousArrowRow = 0;
+    int mousePointer_ = PointerDefault;
+    bool unloaded_ = false;
+};
+
+} // namespace orvane
