@@ -29,8 +29,9 @@ template <typename Fn> Fn Bind(const char* name) {
 
 } // namespace
 
-const FileDiffEngine::Api* FileDiffEngine::LoadApi() {
-    static const FileDiffEngine::Api api{
+// Bound anew for each engine: the library may have been unloaded and loaded again since.
+FileDiffEngine::Api FileDiffEngine::LoadApi() {
+    return Api{
         Bind<decltype(&LD_Create)>("LD_Create"),
         Bind<decltype(&LD_Destroy)>("LD_Destroy"),
         Bind<decltype(&LD_SetIgnoreCase)>("LD_SetIgnoreCase"),
@@ -40,10 +41,10 @@ const FileDiffEngine::Api* FileDiffEngine::LoadApi() {
         Bind<decltype(&LD_OutputLineCount)>("LD_OutputLineCount"),
         Bind<decltype(&LD_OutputLine)>("LD_OutputLine"),
     };
-    return &api;
 }
 
-FileDiffEngine::FileDiffEngine() : api_(LoadApi()), engine_(api_->create()) {
+FileDiffEngine::FileDiffEngine()
+    : api_(std::make_unique<Api>(LoadApi())), engine_(api_->create()) {
     if (!engine_) throw RuntimeError(err::CannotCreateObject);
 }
 

@@ -3,6 +3,7 @@
 // operations the comparison uses.
 #include "compare/DiffRows.h"
 
+#include <memory>
 #include <string>
 
 struct LdEngine;
@@ -28,8 +29,8 @@ class FileDiffEngine : public DiffOutput {
 
   private:
     struct Api;
-    static const Api* LoadApi();
-    const Api* api_;
+    static Api LoadApi();
+    std::unique_ptr<Api> api_;
     LdEngine* engine_;
 };
 

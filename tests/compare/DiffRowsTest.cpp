@@ -87,6 +87,8 @@ struct HunkCase {
     DiffList list;
 };
 
+void PrintTo(const HunkCase& c, std::ostream* os) { *os << c.name; }
+
 class Hunks : public ::testing::TestWithParam<HunkCase> {};
 
 TEST_P(Hunks, AlignAndColourTheRows) {
