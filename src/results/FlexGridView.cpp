@@ -114,6 +114,16 @@ void FlexGridView::SyncTopRowFromScroll() {
     }
 }
 
+void FlexGridView::SetGridLines(int gridLines) {
+    grid_.SetGridLines(gridLines);
+    setShowGrid(gridLines != 0);
+}
+
+void FlexGridView::SetGridFont(const QFont& f) {
+    setFont(f);
+    verticalHeader()->setDefaultSectionSize(QFontMetrics(f).height() + 2);
+}
+
 void FlexGridView::resizeEvent(QResizeEvent* e) {
     QTableView::resizeEvent(e);
     const int rowHeight = std::max(verticalHeader()->defaultSectionSize(), 1);

@@ -36,6 +36,10 @@ class FlexGridView : public QTableView {
   public:
     explicit FlexGridView(FlexGrid& grid, const QString& name, QWidget* parent = nullptr);
     FlexGrid& Grid() { return grid_; }
+    // GridLines 1 shows lines between rows, 0 none.
+    void SetGridLines(int gridLines);
+    // Rows follow the font's height.
+    void SetGridFont(const QFont& font);
 
   signals:
     void TopRowChanged(long topRow);

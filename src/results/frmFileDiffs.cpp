@@ -7,9 +7,12 @@
 #include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
+#include "results/Commands.h"
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
 #include "settings/ExtractionOptions.h"
+#include "settings/IniFileName.h"
+#include "settings/ProgramOptions.h"
 
 #include <QAction>
 #include <QApplication>
@@ -49,45 +52,20 @@ QTextEdit* MakeDetailBox(const QString& name, QWidget* parent) {
     return box;
 }
 
-std::string IniFilePath() {
-    return gAppPath + std::filesystem::path("/proc/self/exe").filename().string() + ".ini";
-}
+std::string IniFilePath() { return gAppPath + ProgramIniFileName(); }
 
 } // namespace
 
 frmFileDiffs::frmFileDiffs(QWidget* parent) : QMainWindow(parent) {
     setObjectName("frmFileDiffs");
     setWindowTitle("Orvane");
-    BuildCommands();
+    commands_ = new Commands(*this, [this] { return mousePointer_ == PointerHourglass; });
     BuildWidgets();
+    ConnectCommands();
 }
 
-frmFileDiffs::~frmFileDiffs() {
-    originalGrid_.SetObserver({});
-    revisedGrid_.SetObserver({});
-}
-
-void frmFileDiffs::BuildCommands() {
-    mnuFileCompare = new QAction("Co&mpare", this);
-    mnuFileCompare->setObjectName("mnuFileCompare");
-    mnuFileCompare->setShortcut(QKeySequence("Ctrl+M"));
-    connect(mnuFileCompare, &QAction::triggered, this, [this] { mnuFileCompare_Click(); });
-    mnuFileExit = new QAction("E&xit", this);
-    mnuFileExit->setObjectName("mnuFileExit");
-    mnuFileExit->setShortcut(QKeySequence("Ctrl+Q"));
-    connect(mnuFileExit, &QAction::triggered, this, &QWidget::close);
-
-    QMenu* file = menuBar()->addMenu("&File");
-    file->setObjectName("mnuFile");
-    file->addAction(mnuFileCompare);
-    file->addSeparator();
-    file->addAction(mnuFileExit);
-
-    tbrMain = addToolBar("Main");
-    tbrMain->setObjectName("tbrMain");
-    tbrMain->setMovable(false);
-    tbrMain->addAction(mnuFileCompare);
-}
+// The views go first: the grids they show are members, gone before the base class's children.
+frmFileDiffs::~frmFileDiffs() { delete takeCentralWidget(); }
 
 void frmFileDiffs::BuildWidgets() {
     auto* central = new QWidget(this);
@@ -122,7 +100,7 @@ void frmFileDiffs::BuildWidgets() {
     Animation1->setRange(0, 0);
     Animation1->setMaximumWidth(150);
     Animation1->setVisible(false);
-    tbrMain->addWidget(Animation1);
+    commands_->Toolbar()->addWidget(Animation1);
 
     setCentralWidget(central);
     resize(900, 600);
@@ -134,6 +112,7 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
             grid->SetRows(2);
             grid->SetTextMatrix(0, 0, kIdlePrompt);
         }
+        modIniFile::ReadProgramOptionsFromIniFile(*this);
         ShowLineDiffPrompt();
         SetCommandsForNoResults();
         ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);
@@ -170,6 +149,7 @@ void frmFileDiffs::Form_Unload() {
         grid->Clear();
         grid->SetRedraw(false);
     }
+    modIniFile::SaveProgramOptionsToIniFile(*this);
     gViewOptions.reset();
     DoEvents();
     gFileDiff.reset();
@@ -249,8 +229,5 @@ void frmFileDiffs::UpdateRowArrow() {
     PreviousArrowRow = newRow;
 }
 
-void frmFileDiffs::SetCommandsForResults() { mnuFileCompare->setEnabled(true); }
-
-void frmFileDiffs::SetCommandsForNoResults() { mnuFileCompare->setEnabled(true); }
 
 } // namespace orvane

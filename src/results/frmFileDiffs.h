@@ -4,19 +4,19 @@
 #include "compare/DiffRows.h"
 #include "compare/ViewOptions.h"
 #include "results/FlexGrid.h"
+#include "settings/OptionsWindow.h"
 
 #include <QMainWindow>
 #include <string>
 #include <vector>
 
-class QAction;
 class QComboBox;
 class QProgressBar;
 class QTextEdit;
-class QToolBar;
 
 namespace orvane {
 
+class Commands;
 class FlexGridView;
 
 inline constexpr const char* kIdlePrompt = "Select two files then press the Compare button";
@@ -26,7 +26,7 @@ inline constexpr const char* kDetailPrompt =
 // Values of the window's mouse pointer that the program tests.
 enum MousePointerValue { PointerDefault = 0, PointerHourglass = 11 };
 
-class frmFileDiffs : public QMainWindow {
+class frmFileDiffs : public QMainWindow, public OptionsWindow {
     Q_OBJECT
   public:
     explicit frmFileDiffs(QWidget* parent = nullptr);
@@ -59,13 +59,31 @@ class frmFileDiffs : public QMainWindow {
     QComboBox* OriginalFileBox() const { return cboOriginalFile; }
     QComboBox* RevisedFileBox() const { return cboRevisedFile; }
     bool ResultsShown() const;
+    Commands& CommandSurface() { return *commands_; }
+    FlexGridView* GridView(Side side) const;
+
+    // OptionsWindow: the option checks and the grids' look, as the settings file holds them.
+    void SetMenuChecked(const std::string& name, int index, bool checked) override;
+    bool MenuChecked(const std::string& name, int index) const override;
+    void SetGridLines(const std::string& grid, int gridLines) override;
+    std::string GridFontName(const std::string& grid) const override;
+    double GridFontSize(const std::string& grid) const override;
+    bool GridFontBold(const std::string& grid) const override;
+    bool GridFontItalic(const std::string& grid) const override;
+    void SetGridFontName(const std::string& grid, const std::string& name) override;
+    void SetGridFontSize(const std::string& grid, double points) override;
+    void SetGridFontBold(const std::string& grid, bool bold) override;
+    void SetGridFontItalic(const std::string& grid, bool italic) override;
 
   protected:
     void closeEvent(QCloseEvent* e) override;
 
   private:
     void BuildWidgets();
-    void BuildCommands();
+    void ConnectCommands();
+    void ComparisonModeOption(int i);
+    void OutputFormatOption(int i);
+    FlexGridView& NamedGrid(const std::string& grid) const;
     void SetMousePointer(int value);
     void Form_Unload();
     // The driver's steps, one routine per concern.
@@ -82,9 +100,7 @@ class frmFileDiffs : public QMainWindow {
     QComboBox* cboRevisedFile = nullptr;
     QTextEdit* rtfLineDiff[2] = {nullptr, nullptr};
     QProgressBar* Animation1 = nullptr;
-    QToolBar* tbrMain = nullptr;
-    QAction* mnuFileCompare = nullptr;
-    QAction* mnuFileExit = nullptr;
+    Commands* commands_ = nullptr;
 
     DiffList DiffList_;
     std::vector<long> BookmarkList;

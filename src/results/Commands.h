@@ -1,0 +1,50 @@
+#pragma once
+// The window's menu bar and toolbar, built from the command tables; items are found by name.
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <map>
+#include <set>
+#include <vector>
+
+class QAction;
+class QMainWindow;
+class QMenuBar;
+class QToolBar;
+
+namespace orvane {
+
+class Commands : public QObject {
+    Q_OBJECT
+  public:
+    // `busy` tells whether the window shows the hourglass: toolbar clicks are dropped then.
+    Commands(QMainWindow& window, std::function<bool()> busy);
+
+    // A menu item by name, with its index for a control array member; null when there is none.
+    QAction* Item(const QString& name, int index = -1) const;
+    // Toolbar button by place (1-based, separators counted); null for a separator.
+    QAction* Button(int place) const;
+    QToolBar* Toolbar() const { return toolbar_; }
+
+    // Runs `fn` when the item is chosen.
+    void On(const QString& name, std::function<void()> fn, int index = -1);
+    // Sets a command's availability: its menu item and its toolbar button together. A command
+    // with nothing behind it yet stays off, so that no button pretends.
+    void Enable(const QString& name, bool on);
+
+  private:
+    void BuildMenus(QMenuBar& bar);
+    void BuildToolbar(QMainWindow& window);
+
+    std::map<QString, QAction*> items_;
+    std::vector<QAction*> buttons_; // by place - 1
+    std::map<QString, QAction*> buttonOf_;
+    std::set<QString> handled_;
+    QToolBar* toolbar_ = nullptr;
+    std::function<bool()> busy_;
+};
+
+// Object name of a control array member: "name(i)".
+QString ItemName(const QString& name, int index);
+
+} // namespace orvane

@@ -1,0 +1,39 @@
+// Renders the main window offscreen after comparing two files and saves it as a PNG, for the
+// documentation: orvane_screenshot ORIGINAL REVISED OUT.png [WIDTH HEIGHT]
+#include "compare/FileDiffEngine.h"
+#include "compare/ViewOptions.h"
+#include "frame/EngineLibraries.h"
+#include "frame/Globals.h"
+#include "frame/KWCommon.h"
+#include "results/frmFileDiffs.h"
+#include "settings/ExtractionOptions.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QPixmap>
+#include <cstdio>
+
+int main(int argc, char* argv[]) {
+    if (argc < 4) {
+        std::fprintf(stderr, "usage: %s ORIGINAL REVISED OUT.png [WIDTH HEIGHT]\n", argv[0]);
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    using namespace orvane;
+    gAppPath = AddTrailingBackslash(QApplication::applicationDirPath().toStdString());
+    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+    gFileDiff = std::make_unique<FileDiffEngine>();
+    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    frmFileDiffs window;
+    window.Form_Load("");
+    gViewOptions->OutputFormat = OutputSideBySide;
+    if (argc >= 6) window.resize(std::atoi(argv[4]), std::atoi(argv[5]));
+    window.OriginalFileBox()->setEditText(argv[1]);
+    window.RevisedFileBox()->setEditText(argv[2]);
+    window.CompareFiles(true);
+    QApplication::processEvents();
+    const bool saved = window.grab().save(argv[3]);
+    window.hide();
+    return saved ? 0 : 1;
+}
