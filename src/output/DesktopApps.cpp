@@ -115,7 +115,7 @@ std::string DefaultApplication(const std::string& mimeType) {
     for (const std::string& d : ConfigDirs()) lists.push_back(d + "mimeapps.list");
     for (const std::string& d : ApplicationDirs()) lists.push_back(d + "mimeapps.list");
     for (const std::string& list : lists) {
-        for (const std::string id : {FirstOfList(GroupValue(list, "Default Applications", mimeType)),
+        for (const std::string& id : {FirstOfList(GroupValue(list, "Default Applications", mimeType)),
                                      FirstOfList(GroupValue(list, "Added Associations", mimeType))})
             if (!id.empty() && !FindEntryFile(id).empty()) return id;
     }

@@ -15,10 +15,10 @@ QString ItemName(const QString& name, int index) {
     return index < 0 ? name : QString("%1(%2)").arg(name).arg(index);
 }
 
-Commands::Commands(QMainWindow& window, std::function<bool()> busy)
+Commands::Commands(QMainWindow& window, QWidget& toolbarParent, std::function<bool()> busy)
     : QObject(&window), busy_(std::move(busy)) {
     BuildMenus(*window.menuBar());
-    BuildToolbar(window);
+    BuildToolbar(window, toolbarParent);
 }
 
 void Commands::BuildMenus(QMenuBar& bar) {
@@ -52,8 +52,8 @@ void Commands::BuildMenus(QMenuBar& bar) {
     }
 }
 
-void Commands::BuildToolbar(QMainWindow& window) {
-    toolbar_ = window.addToolBar("Main");
+void Commands::BuildToolbar(QMainWindow& window, QWidget& parent) {
+    toolbar_ = new QToolBar("Main", &parent);
     toolbar_->setObjectName("tbrMain");
     toolbar_->setMovable(false);
     toolbar_->setFloatable(false);

@@ -11,14 +11,16 @@ class QAction;
 class QMainWindow;
 class QMenuBar;
 class QToolBar;
+class QWidget;
 
 namespace orvane {
 
 class Commands : public QObject {
     Q_OBJECT
   public:
-    // `busy` tells whether the window shows the hourglass: toolbar clicks are dropped then.
-    Commands(QMainWindow& window, std::function<bool()> busy);
+    // The toolbar goes on `toolbarParent`, the window's client area. `busy` tells whether the
+    // window shows the hourglass: toolbar clicks are dropped then.
+    Commands(QMainWindow& window, QWidget& toolbarParent, std::function<bool()> busy);
 
     // A menu item by name, with its index for a control array member; null when there is none.
     QAction* Item(const QString& name, int index = -1) const;
@@ -34,7 +36,7 @@ class Commands : public QObject {
 
   private:
     void BuildMenus(QMenuBar& bar);
-    void BuildToolbar(QMainWindow& window);
+    void BuildToolbar(QMainWindow& window, QWidget& parent);
 
     std::map<QString, QAction*> items_;
     std::vector<QAction*> buttons_; // by place - 1

@@ -1,5 +1,7 @@
 #include "results/FlexGridView.h"
 
+#include "results/RowMarkers.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QHeaderView>
@@ -48,6 +50,15 @@ QVariant FlexGridModel::data(const QModelIndex& index, int role) const {
     if (row >= grid_.Rows()) return {};
     switch (role) {
     case Qt::DisplayRole: return DisplayText(row);
+    case Qt::DecorationRole:
+        if (grid_.RowPicture(row) != CellPictureId::None) {
+            static const QPixmap markers[] = {
+                {}, RowMarker(CellPictureId::Arrow), RowMarker(CellPictureId::OrphanArrow),
+                RowMarker(CellPictureId::DifferArrow), RowMarker(CellPictureId::BookmarkArrow),
+                RowMarker(CellPictureId::Bookmark)};
+            return markers[static_cast<int>(grid_.RowPicture(row))];
+        }
+        return {};
     case Qt::BackgroundRole:
         if (Colour c = grid_.RowBackColor(row)) return QBrush(ToQColor(c));
         return {};
@@ -73,6 +84,7 @@ FlexGridView::FlexGridView(FlexGrid& grid, const QString& name, QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     setSelectionMode(QAbstractItemView::NoSelection);
     setFocusPolicy(Qt::StrongFocus);
+    setIconSize(QSize(10, 8));
     setWordWrap(false);
     setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

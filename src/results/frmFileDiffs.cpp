@@ -18,13 +18,10 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QHBoxLayout>
-#include <QMenuBar>
+#include <QLineEdit>
 #include <QProgressBar>
-#include <QSplitter>
 #include <QTextEdit>
 #include <QToolBar>
-#include <QVBoxLayout>
 #include <filesystem>
 
 namespace orvane {
@@ -47,8 +44,10 @@ QTextEdit* MakeDetailBox(const QString& name, QWidget* parent) {
     box->setReadOnly(true);
     box->setLineWrapMode(QTextEdit::NoWrap);
     box->setFont(QFont("Courier New", 10));
-    box->setFixedHeight(box->fontMetrics().height() + 12);
+    box->document()->setDocumentMargin(2); // one line fits the box's design height
+    box->setFrameShape(QFrame::Box);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     return box;
 }
 
@@ -59,51 +58,41 @@ std::string IniFilePath() { return gAppPath + ProgramIniFileName(); }
 frmFileDiffs::frmFileDiffs(QWidget* parent) : QMainWindow(parent) {
     setObjectName("frmFileDiffs");
     setWindowTitle("Orvane");
-    commands_ = new Commands(*this, [this] { return mousePointer_ == PointerHourglass; });
+    client_ = new QWidget(this);
+    client_->setObjectName("ClientArea");
+    setCentralWidget(client_);
+    commands_ =
+        new Commands(*this, *client_, [this] { return mousePointer_ == PointerHourglass; });
     BuildWidgets();
     ConnectCommands();
+    SizeToDesign();
 }
 
 // The views go first: the grids they show are members, gone before the base class's children.
 frmFileDiffs::~frmFileDiffs() { delete takeCentralWidget(); }
 
 void frmFileDiffs::BuildWidgets() {
-    auto* central = new QWidget(this);
-    auto* column = new QVBoxLayout(central);
-    column->setContentsMargins(4, 2, 4, 4);
-    column->setSpacing(2);
-
-    auto* boxes = new QHBoxLayout;
-    cboOriginalFile = MakeFileBox("cboOriginalFile", central);
-    cboRevisedFile = MakeFileBox("cboRevisedFile", central);
-    boxes->addWidget(cboOriginalFile);
-    boxes->addWidget(cboRevisedFile);
-    column->addLayout(boxes);
-
-    auto* splitter = new QSplitter(Qt::Horizontal, central);
-    splitter->setObjectName("Splitter");
-    grdOriginalFile = new FlexGridView(originalGrid_, "grdOriginalFile", splitter);
-    grdRevisedFile = new FlexGridView(revisedGrid_, "grdRevisedFile", splitter);
-    column->addWidget(splitter, 1);
+    cboOriginalFile = MakeFileBox("cboOriginalFile", client_);
+    cboRevisedFile = MakeFileBox("cboRevisedFile", client_);
+    for (QComboBox* box : {cboOriginalFile, cboRevisedFile}) {
+        box->setAcceptDrops(true);
+        box->lineEdit()->setAcceptDrops(false); // the box, not its editor, takes drops
+        box->installEventFilter(this);
+    }
+    grdOriginalFile = new FlexGridView(originalGrid_, "grdOriginalFile", client_);
+    grdRevisedFile = new FlexGridView(revisedGrid_, "grdRevisedFile", client_);
     connect(grdOriginalFile, &FlexGridView::TopRowChanged, this,
             [this](long top) { revisedGrid_.SetTopRow(top); });
     connect(grdRevisedFile, &FlexGridView::TopRowChanged, this,
             [this](long top) { originalGrid_.SetTopRow(top); });
-
-    rtfLineDiff[0] = MakeDetailBox("rtfLineDiff(0)", central);
-    rtfLineDiff[1] = MakeDetailBox("rtfLineDiff(1)", central);
-    column->addWidget(rtfLineDiff[0]);
-    column->addWidget(rtfLineDiff[1]);
-
-    Animation1 = new QProgressBar(this);
+    Splitter = MakeSplitterHandle(*this, client_);
+    rtfLineDiff[0] = MakeDetailBox("rtfLineDiff(0)", client_);
+    rtfLineDiff[1] = MakeDetailBox("rtfLineDiff(1)", client_);
+    Animation1 = new QProgressBar(client_);
     Animation1->setObjectName("Animation1");
     Animation1->setRange(0, 0);
-    Animation1->setMaximumWidth(150);
+    Animation1->setTextVisible(false);
     Animation1->setVisible(false);
-    commands_->Toolbar()->addWidget(Animation1);
-
-    setCentralWidget(central);
-    resize(900, 600);
 }
 
 void frmFileDiffs::Form_Load(const std::string& commandLine) {
@@ -199,10 +188,11 @@ void frmFileDiffs::ShowLineDiffPrompt() {
 }
 
 void frmFileDiffs::ShowGridsOrVisualReport(bool ShowGrids) {
-    for (QWidget* w : std::initializer_list<QWidget*>{grdOriginalFile, grdRevisedFile,
-                                                      rtfLineDiff[0], rtfLineDiff[1]})
-        w->setVisible(ShowGrids);
     if (!ShowGrids) DoEvents();
+    for (QWidget* w : std::initializer_list<QWidget*>{grdOriginalFile, grdRevisedFile,
+                                                      rtfLineDiff[0], rtfLineDiff[1], Splitter})
+        w->setVisible(ShowGrids);
+    Form_Resize();
 }
 
 void frmFileDiffs::StartAnimation() { Animation1->setVisible(true); }

@@ -4,6 +4,7 @@
 #include "compare/DiffRows.h"
 #include "compare/ViewOptions.h"
 #include "results/FlexGrid.h"
+#include "results/WindowLayout.h"
 #include "settings/OptionsWindow.h"
 
 #include <QMainWindow>
@@ -11,6 +12,7 @@
 #include <vector>
 
 class QComboBox;
+class QMimeData;
 class QProgressBar;
 class QTextEdit;
 
@@ -18,6 +20,8 @@ namespace orvane {
 
 class Commands;
 class FlexGridView;
+
+QWidget* MakeSplitterHandle(class frmFileDiffs& window, QWidget* parent);
 
 inline constexpr const char* kIdlePrompt = "Select two files then press the Compare button";
 inline constexpr const char* kDetailPrompt =
@@ -47,6 +51,14 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void StartAnimation();
     void StopAnimationAndClearStatus();
     void ResetDiffState();
+    void Form_Resize();
+    void ApplyNewFont(const std::string& FontName, int FontSize, bool FontBold, bool FontItalic);
+    void Splitter_MouseDown(int button, float x);
+    void Splitter_MouseMove(float x);
+    void Splitter_MouseUp(float x);
+    // A drop on a file box: text first, else the first file of a list.
+    static bool DropOnFileBox(QComboBox& box, const QMimeData& data);
+    const WindowRegions& Regions() const { return regions_; }
     void UpdateRowArrow();
     void SetCommandsForResults();
     void SetCommandsForNoResults();
@@ -77,9 +89,15 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
 
   protected:
     void closeEvent(QCloseEvent* e) override;
+    void resizeEvent(QResizeEvent* e) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void BuildWidgets();
+    void PlaceRegions();
+    void SizeToDesign();
+    float Twips(int pixels) const;
+    int Pixels(float twips) const;
     void ConnectCommands();
     void ComparisonModeOption(int i);
     void OutputFormatOption(int i);
@@ -100,6 +118,10 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     QComboBox* cboRevisedFile = nullptr;
     QTextEdit* rtfLineDiff[2] = {nullptr, nullptr};
     QProgressBar* Animation1 = nullptr;
+    QWidget* client_ = nullptr;
+    QWidget* Splitter = nullptr;
+    WindowRegions regions_;
+    SplitterDrag splitterDrag_;
     Commands* commands_ = nullptr;
 
     DiffList DiffList_;

@@ -33,18 +33,17 @@ void CIniFile::Name(const std::string& NewName) {
 }
 
 bool CIniFile::PropertiesSet(bool forWrite) const {
-    const char* missing = nullptr;
-    if (m_Name.empty()) {
-        prompter().MsgBox("Name property must be set first", MsgIcon::Critical, kErrorTitle);
-        return false;
-    }
-    if (m_Section.empty())
-        missing =
-            forWrite ? "Section property must be set first." : "Section property must be set first";
+    std::string missing;
+    if (m_Name.empty())
+        missing = "Name property must be set first";
+    else if (m_Section.empty())
+        missing = "Section property must be set first";
     else if (m_Key.empty())
-        missing = forWrite ? "Key property must be set first." : "Key property must be set first";
-    if (missing) prompter().MsgBox(missing, MsgIcon::Critical, kErrorTitle);
-    return missing == nullptr;
+        missing = "Key property must be set first";
+    if (missing.empty()) return true;
+    if (forWrite && !m_Name.empty()) missing += '.'; // the write's Section and Key texts only
+    prompter().MsgBox(missing, MsgIcon::Critical, kErrorTitle);
+    return false;
 }
 
 std::int16_t CIniFile::GetIntegerValue(const std::int16_t& Default) {

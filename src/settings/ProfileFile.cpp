@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <vector>
 
-// What is written can always be read back as written:
+// Nothing written can break the file's structure:
 // - a value's CR and LF become blanks (a value can never start a line of its own);
 // - a section or key holding CR or LF, a key holding '=' or starting with '[', and a name that
 //   is empty after trimming cannot be stored: the write is refused and reads give the default.

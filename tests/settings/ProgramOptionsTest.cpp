@@ -1,0 +1,295 @@
+#include "settings/ProgramOptions.h"
+
+#include "SettingsTestSupport.h"
+#include "compare/ViewOptions.h"
+#include "frame/RuntimeError.h"
+#include "settings/ExtractionOptions.h"
+#include "settings/IniFileName.h"
+
+#include <map>
+
+namespace orvane::test {
+namespace {
+
+struct Font {
+    std::string Name = "Arial";
+    double Size = 10;
+    bool Bold = false;
+    bool Italic = false;
+};
+
+class FakeWindow : public OptionsWindow {
+  public:
+    std::map<std::pair<std::string, int>, bool> Checks;
+    std::map<std::string, int> GridLines;
+    std::map<std::string, Font> Fonts;
+
+    void SetMenuChecked(const std::string& name, int index, bool checked) override {
+        Checks[{name, index}] = checked;
+    }
+    bool MenuChecked(const std::string& name, int index) const override {
+        const auto it = Checks.find({name, index});
+        return it != Checks.end() && it->second;
+    }
+    void SetGridLines(const std::string& grid, int lines) override { GridLines[grid] = lines; }
+    std::string GridFontName(const std::string& g) const override { return Fonts.at(g).Name; }
+    double GridFontSize(const std::string& g) const override { return Fonts.at(g).Size; }
+    bool GridFontBold(const std::string& g) const override { return Fonts.at(g).Bold; }
+    bool GridFontItalic(const std::string& g) const override { return Fonts.at(g).Italic; }
+    void SetGridFontName(const std::string& grid, const std::string& name) override {
+        Fonts[grid].Name = name;
+    }
+    void SetGridFontSize(const std::string& g, double points) override { Fonts[g].Size = points; }
+    void SetGridFontBold(const std::string& g, bool bold) override { Fonts[g].Bold = bold; }
+    void SetGridFontItalic(const std::string& g, bool it) override { Fonts[g].Italic = it; }
+};
+
+// The file as Save writes it from the first-run state: 25 keys in five sections.
+const std::string kDefaultFile = "[Compare]\r\n"
+                                 "IgnoreCase=False\r\n"
+                                 "IgnoreWhiteSpace=False\r\n"
+                                 "IgnoreTextFormatting=False\r\n"
+                                 "ShowLineNumbers=True\r\n"
+                                 "ComparisonMode=Visual\r\n"
+                                 "OutputFormat=SideBySide\r\n"
+                                 "ComparisonLevel=Character\r\n"
+                                 "ShowDialogueBeforeComparison=True\r\n"
+                                 "ShowInternetSourceReminder=True\r\n"
+                                 "[Grids]\r\n"
+                                 "ShowGridLines=True\r\n"
+                                 "FontBold=False\r\n"
+                                 "FontItalic=False\r\n"
+                                 "FontName=Courier New\r\n"
+                                 "FontSize=8\r\n"
+                                 "[Text Extraction]\r\n"
+                                 "ExtractionEnginePrefs=InternalMSWord\r\n"
+                                 "OriginalFormat=True\r\n"
+                                 "SingleLineParagraph=False\r\n"
+                                 "LimitLineLength=False\r\n"
+                                 "MaxNumCharsPerLine=79\r\n"
+                                 "MSWordLimitLineLength=False\r\n"
+                                 "MSWordMaxNumCharsPerLine=79\r\n"
+                                 "MSWordSaveAsFormat=2\r\n"
+                                 "TextWithLayoutConverterPath=C:\\Program Files\\Common "
+                                 "Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV\r\n"
+                                 "[Miscellaneous]\r\n"
+                                 "HTMLEditorFileSpec=Notepad.exe\r\n"
+                                 "[Form]\r\n"
+                                 "PaneTooltips=False\r\n";
+
+class ProgramOptions : public ProgramFolderTest {
+  protected:
+    void SetUp() override {
+        ProgramFolderTest::SetUp();
+        SetProgramIniFileName("orvane.ini");
+        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+        gExtractionOptions = std::make_unique<clsExtractionOptions>();
+        gHTMLEditorFileSpec.clear();
+        gTextWithLayoutConverterPath.clear();
+    }
+    void TearDown() override {
+        gViewOptions.reset();
+        gExtractionOptions.reset();
+        SetProgramIniFileName("");
+        ProgramFolderTest::TearDown();
+    }
+
+    void Read(const std::string& file) {
+        WriteFile("orvane.ini", file);
+        modIniFile::ReadProgramOptionsFromIniFile(Window);
+    }
+    void Save() { modIniFile::SaveProgramOptionsToIniFile(Window); }
+    bool Checked(const std::string& menu, int index = -1) const {
+        return Window.MenuChecked(menu, index);
+    }
+    bool HasLine(const std::string& line) const {
+        return ("\n" + ReadFile("orvane.ini")).find("\n" + line + "\r\n") != std::string::npos;
+    }
+    void ExpectReadFailure(long number) {
+        ASSERT_EQ(Prompts->Boxes.size(), 1u);
+        EXPECT_EQ(Prompts->Boxes[0].Title,
+                  "Unexpected Error in modIniFile.ReadProgramOptionsFromIniFile");
+        EXPECT_NE(Prompts->Boxes[0].Text.find("No: " + std::to_string(number)), std::string::npos);
+    }
+
+    FakeWindow Window;
+};
+
+TEST_F(ProgramOptions, EmptyFileGivesDefaultsAndSaveWritesAllKeys) {
+    Read("");
+    const auto& v = *gViewOptions;
+    EXPECT_EQ(v.ComparisonMode, ModeVisual);
+    EXPECT_EQ(v.OutputFormat, OutputSideBySide);
+    EXPECT_EQ(v.ComparisonLevel, LevelCharacter);
+    EXPECT_TRUE(v.ShowLineNumbers && v.ShowDialogueBeforeComparison &&
+                v.ShowInternetSourceReminder);
+    EXPECT_FALSE(v.IgnoreCase || v.IgnoreWhiteSpace || v.IgnoreTextFormatting ||
+                 v.ForceTextCompare);
+    EXPECT_TRUE(Checked("mnuOptionsShowLineNumbers") && Checked("mnuOptionsShowDialogue") &&
+                Checked("mnuOptionsShowInternetSourceReminder") &&
+                Checked("mnuOptionsShowGridLines"));
+    EXPECT_TRUE(Checked("mnuOptionsComparisonModeOption", 0) &&
+                Checked("mnuOptionsOutputFormatOption", 1) &&
+                Checked("mnuOptionsDiffDetailOption", 0));
+    EXPECT_FALSE(Checked("mnuOptionsIgnoreCase") || Checked("mnuOptionsDisplayGridTooltips"));
+    for (const char* grid : {kGrdOriginalFile, kGrdRevisedFile}) {
+        EXPECT_EQ(Window.GridLines[grid], 1);
+        EXPECT_EQ(Window.Fonts[grid].Name, "Courier New");
+        EXPECT_EQ(Window.Fonts[grid].Size, 8.0);
+    }
+    EXPECT_EQ(gHTMLEditorFileSpec, "Notepad.exe");
+    EXPECT_TRUE(Prompts->Boxes.empty());
+    std::filesystem::remove(PathOf("orvane.ini"));
+    Save();
+    EXPECT_EQ(ReadFile("orvane.ini"), kDefaultFile);
+    EXPECT_EQ(FolderEntries(), std::vector<std::string>{"orvane.ini"});
+}
+
+TEST_F(ProgramOptions, OnlyExactTrueIsTrue) {
+    Read("[Compare]\r\nIgnoreCase=TRUE\r\nIgnoreWhiteSpace=True\r\nShowLineNumbers=true\r\n"
+         "[Grids]\r\nShowGridLines=yes\r\nFontBold=True\r\n");
+    EXPECT_FALSE(gViewOptions->IgnoreCase);
+    EXPECT_TRUE(gViewOptions->IgnoreWhiteSpace);
+    EXPECT_TRUE(Checked("mnuOptionsIgnoreWhitespace"));
+    EXPECT_FALSE(gViewOptions->ShowLineNumbers);
+    EXPECT_FALSE(Checked("mnuOptionsShowLineNumbers"));
+    EXPECT_EQ(Window.GridLines[kGrdRevisedFile], 0);
+    EXPECT_TRUE(Window.Fonts[kGrdRevisedFile].Bold);
+}
+
+TEST_F(ProgramOptions, UnknownWordLeavesFieldAndChecksItsItem) {
+    gViewOptions->ComparisonLevel = LevelLine;
+    Window.SetMenuChecked("mnuOptionsComparisonModeOption", 2, true);
+    Read("[Compare]\r\nComparisonMode=visual\r\nOutputFormat=OneWindow\r\nComparisonLevel=x\r\n");
+    EXPECT_EQ(gViewOptions->ComparisonMode, ModeVisual);
+    EXPECT_TRUE(Checked("mnuOptionsComparisonModeOption", 0));
+    EXPECT_TRUE(Checked("mnuOptionsComparisonModeOption", 2)); // never cleared
+    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
+    EXPECT_TRUE(Checked("mnuOptionsOutputFormatOption", 0));
+    EXPECT_EQ(gViewOptions->ComparisonLevel, LevelLine);
+    EXPECT_TRUE(Checked("mnuOptionsDiffDetailOption", 2));
+}
+
+TEST_F(ProgramOptions, AnyOtherEnginePreferenceMeansWordFirst) {
+    Read("[Text Extraction]\r\nExtractionEnginePrefs=internalmsword\r\n");
+    EXPECT_EQ(gExtractionOptions->EnginePreference, 1);
+    Save();
+    Read(ReadFile("orvane.ini"));
+    EXPECT_EQ(gExtractionOptions->EnginePreference, 1);
+    EXPECT_TRUE(HasLine("ExtractionEnginePrefs=MSWordInternal"));
+}
+
+TEST_F(ProgramOptions, LettersInWidthStopTheReadUnlessWordWidthHasLettersToo) {
+    Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordSaveAsFormat=5\r\n"
+         "[Miscellaneous]\r\nHTMLEditorFileSpec=/usr/bin/gedit\r\n");
+    ExpectReadFailure(err::TypeMismatch);
+    EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 79);
+    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 2);
+    EXPECT_EQ(gTextWithLayoutConverterPath, "");
+    EXPECT_EQ(gHTMLEditorFileSpec, "");
+
+    Prompts->Boxes.clear();
+    Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordMaxNumCharsPerLine=x\r\n"
+         "MSWordSaveAsFormat=5\r\n");
+    EXPECT_TRUE(Prompts->Boxes.empty());
+    EXPECT_EQ(gExtractionOptions->MSWordMaxNumCharsPerLine, 79);
+    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 5);
+}
+
+TEST_F(ProgramOptions, WordWidthFollowsInternalWidth) {
+    Read("[Text Extraction]\r\nMaxNumCharsPerLine=100\r\nMSWordMaxNumCharsPerLine=60\r\n");
+    EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 100);
+    EXPECT_EQ(gExtractionOptions->MSWordMaxNumCharsPerLine, 100);
+    Save();
+    EXPECT_TRUE(HasLine("MaxNumCharsPerLine=100"));
+    EXPECT_TRUE(HasLine("MSWordMaxNumCharsPerLine=100"));
+}
+
+TEST_F(ProgramOptions, FontSizeIsLeadingNumber) {
+    Read("[Grids]\r\nFontSize=9.5pt\r\nFontName=DejaVu Sans Mono\r\nFontItalic=True\r\n");
+    for (const char* grid : {kGrdOriginalFile, kGrdRevisedFile}) {
+        EXPECT_EQ(Window.Fonts[grid].Size, 9.5);
+        EXPECT_EQ(Window.Fonts[grid].Name, "DejaVu Sans Mono");
+        EXPECT_TRUE(Window.Fonts[grid].Italic);
+    }
+    Window.Fonts[kGrdRevisedFile] = Font{}; // Save takes the Original grid's font
+    Save();
+    EXPECT_TRUE(HasLine("FontItalic=True"));
+    EXPECT_TRUE(HasLine("FontName=DejaVu Sans Mono"));
+    EXPECT_TRUE(HasLine("FontSize=9.5"));
+}
+
+TEST_F(ProgramOptions, ForceTextCompareIsReadButNeverWritten) {
+    Read("[Compare]\r\nForceTextCompare=True\r\n");
+    EXPECT_TRUE(gViewOptions->ForceTextCompare);
+    gViewOptions->ForceTextCompare = false;
+    for (int run = 0; run < 3; ++run) {
+        Save();
+        Read(ReadFile("orvane.ini"));
+    }
+    EXPECT_TRUE(gViewOptions->ForceTextCompare);
+    EXPECT_EQ(ReadFile("orvane.ini").find("[Compare]\r\nForceTextCompare=True\r\nIgnoreCase="), 0u);
+}
+
+TEST_F(ProgramOptions, ValueOutsideWordTableKeepsOldLine) {
+    Read("[Compare]\r\nComparisonMode=Code\r\n");
+    gViewOptions->ComparisonMode = 9;
+    gViewOptions->ComparisonLevel = LevelWord;
+    Save();
+    EXPECT_TRUE(HasLine("ComparisonMode=Code"));
+    EXPECT_TRUE(HasLine("ComparisonLevel=Word"));
+}
+
+TEST_F(ProgramOptions, SavedStateReadsBackTheSame) {
+    Read("");
+    auto& v = *gViewOptions;
+    v.IgnoreCase = v.IgnoreTextFormatting = true;
+    v.ShowInternetSourceReminder = false;
+    v.ComparisonMode = ModeText;
+    v.OutputFormat = OutputOneWindow;
+    v.ComparisonLevel = LevelLine;
+    auto& e = *gExtractionOptions;
+    e = clsExtractionOptions{false, true, true, 66, true, 66, 7, 3};
+    gHTMLEditorFileSpec = "/usr/bin/editor with blanks";
+    gTextWithLayoutConverterPath = "";
+    Window.SetMenuChecked("mnuOptionsShowGridLines", -1, false);
+    Window.SetMenuChecked("mnuOptionsDisplayGridTooltips", -1, true);
+    Window.Fonts[kGrdOriginalFile] = Font{"Liberation Mono", 10.25, true, true};
+    Save();
+
+    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    Window = FakeWindow{};
+    modIniFile::ReadProgramOptionsFromIniFile(Window);
+    EXPECT_TRUE(gViewOptions->IgnoreCase && gViewOptions->IgnoreTextFormatting);
+    EXPECT_FALSE(gViewOptions->ShowInternetSourceReminder);
+    EXPECT_EQ(gViewOptions->ComparisonMode, ModeText);
+    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
+    EXPECT_EQ(gViewOptions->ComparisonLevel, LevelLine);
+    const auto& r = *gExtractionOptions;
+    EXPECT_EQ(std::tie(r.OriginalFormat, r.LimitLineLength, r.SingleLineParagraph,
+                       r.MaxNumCharsPerLine, r.MSWordLimitLineLength, r.MSWordMaxNumCharsPerLine,
+                       r.MSWordSaveAsFormat, r.EnginePreference),
+              std::make_tuple(false, true, true, 66, true, 66, 7, 1));
+    EXPECT_EQ(gHTMLEditorFileSpec, "/usr/bin/editor with blanks");
+    EXPECT_EQ(gTextWithLayoutConverterPath,
+              "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
+    EXPECT_FALSE(Checked("mnuOptionsShowGridLines"));
+    EXPECT_EQ(Window.GridLines[kGrdOriginalFile], 0);
+    EXPECT_TRUE(Checked("mnuOptionsDisplayGridTooltips"));
+    const Font& f = Window.Fonts[kGrdRevisedFile];
+    EXPECT_EQ(std::tie(f.Name, f.Size, f.Bold, f.Italic),
+              std::make_tuple("Liberation Mono", 10.25, true, true));
+    EXPECT_TRUE(Prompts->Boxes.empty());
+}
+
+TEST(IniFileName, IsExecutableBaseNameWithIni) {
+    SetProgramIniFileName("");
+    EXPECT_EQ(ProgramIniFileName(), "settings_tests.ini");
+    SetProgramIniFileName("other.ini");
+    EXPECT_EQ(ProgramIniFileName(), "other.ini");
+    SetProgramIniFileName("");
+}
+
+} // namespace
+} // namespace orvane::test
