@@ -1,15 +1,21 @@
 #include "frame/NumericSort.h"
 
-#include <cstdlib>
+#include <charconv>
 #include <utility>
 
 namespace orvane {
 
+// from_chars, not strtod: the user's locale must not turn "9.5" into 9.
 double Val(const std::string& Text) {
     std::string digits;
     for (char c : Text)
-        if (c != ' ' && c != '\t') digits += c;
-    return std::strtod(digits.c_str(), nullptr);
+        if (c != ' ' && c != '\t' && c != '\n' && c != '\r') digits += c;
+    const char* first = digits.data();
+    const char* last = first + digits.size();
+    if (first != last && *first == '+') ++first;
+    double value = 0;
+    const auto result = std::from_chars(first, last, value, std::chars_format::general);
+    return result.ec == std::errc() ? value : 0;
 }
 
 void QuickSortStrings(std::vector<std::string>& Items, long Low, long High) {

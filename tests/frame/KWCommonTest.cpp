@@ -3,6 +3,7 @@
 #include "frame/NumericSort.h"
 #include "support/TempDir.h"
 
+#include <clocale>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -128,6 +129,11 @@ TEST(NumericSort, ValReadsTheLeadingNumber) {
     EXPECT_DOUBLE_EQ(Val("9.5pt"), 9.5);
     EXPECT_DOUBLE_EQ(Val(" 1 2 "), 12);
     EXPECT_DOUBLE_EQ(Val("abc"), 0);
+    EXPECT_DOUBLE_EQ(Val("+7e2x"), 700);
+    EXPECT_DOUBLE_EQ(Val("-3.25"), -3.25);
+    std::setlocale(LC_NUMERIC, "de_DE.UTF-8"); // where present: a comma locale must not matter
+    EXPECT_DOUBLE_EQ(Val("9.5"), 9.5);
+    std::setlocale(LC_NUMERIC, "C");
 }
 
 } // namespace
