@@ -5,6 +5,8 @@
 #include <QBrush>
 #include <QColor>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 namespace orvane {
@@ -89,6 +91,8 @@ FlexGridView::FlexGridView(FlexGrid& grid, const QString& name, QWidget* parent)
     setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    viewport()->setMouseTracking(true);
+    setAutoScroll(false); // setting the current row does not scroll, as in the grid control
     grid_.SetObserver([this](GridChange w, long f, long l) { OnGridChange(w, f, l); });
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
             [this] { SyncTopRowFromScroll(); });
@@ -111,7 +115,10 @@ void FlexGridView::OnGridChange(GridChange what, long first, long last) {
                                  model_->index(static_cast<int>(std::max(last, 1L) - 1), 0));
         if (first == 0) emit model_->headerDataChanged(Qt::Horizontal, 0, 0);
         break;
-    case GridChange::CurrentRow: break;
+    case GridChange::CurrentRow:
+        if (first >= 1 && first < grid_.Rows() && currentIndex().row() != first - 1)
+            setCurrentIndex(model_->index(static_cast<int>(first - 1), 0));
+        break;
     }
 }
 
@@ -134,6 +141,46 @@ void FlexGridView::SetGridLines(int gridLines) {
 void FlexGridView::SetGridFont(const QFont& f) {
     setFont(f);
     verticalHeader()->setDefaultSectionSize(QFontMetrics(f).height() + 2);
+}
+
+long FlexGridView::RowAt(const QPoint& viewportPos) const {
+    const int row = rowAt(viewportPos.y());
+    return row < 0 ? -1 : row + 1;
+}
+
+void FlexGridView::mousePressEvent(QMouseEvent* e) {
+    const long row = RowAt(e->position().toPoint());
+    if (row >= 1 && row < grid_.Rows() && e->button() == Qt::LeftButton) grid_.SetRow(row);
+    setFocus(Qt::MouseFocusReason);
+    pressed_ = e->button() == Qt::LeftButton;
+    emit MouseDown(e->button() == Qt::RightButton ? 2 : e->button() == Qt::LeftButton ? 1 : 4,
+                   e->globalPosition().toPoint());
+}
+
+void FlexGridView::mouseReleaseEvent(QMouseEvent* e) {
+    const bool click = pressed_ && e->button() == Qt::LeftButton;
+    pressed_ = false;
+    if (click) emit Click();
+}
+
+void FlexGridView::keyPressEvent(QKeyEvent* e) {
+    QTableView::keyPressEvent(e);
+    if (currentIndex().isValid()) scrollTo(currentIndex());
+}
+
+void FlexGridView::mouseDoubleClickEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton) emit DblClick();
+}
+
+void FlexGridView::mouseMoveEvent(QMouseEvent* e) {
+    emit MouseMove(RowAt(e->position().toPoint()));
+}
+
+// Keys move the current row of this grid only.
+void FlexGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    const long row = current.isValid() ? FlexGridModel::GridRow(current) : -1;
+    if (row >= 1 && row < grid_.Rows() && row != grid_.Row()) grid_.SetRow(row);
 }
 
 void FlexGridView::resizeEvent(QResizeEvent* e) {

@@ -41,11 +41,25 @@ class FlexGridView : public QTableView {
     // Rows follow the font's height.
     void SetGridFont(const QFont& font);
 
+    // The grid row under a point of the viewport, or -1.
+    long RowAt(const QPoint& viewportPos) const;
+
   signals:
     void TopRowChanged(long topRow);
+    // A press makes the pressed row current first, as the grid control does.
+    void Click();
+    void DblClick();
+    void MouseDown(int button, QPoint globalPos);
+    void MouseMove(long mouseRow);
 
   protected:
     void resizeEvent(QResizeEvent* e) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void mouseDoubleClickEvent(QMouseEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
     void OnGridChange(GridChange what, long first, long last);
@@ -54,6 +68,7 @@ class FlexGridView : public QTableView {
     FlexGrid& grid_;
     FlexGridModel* model_;
     bool syncing_ = false;
+    bool pressed_ = false;
 };
 
 // The text of a cell's bytes as the grid's encoding says.

@@ -65,6 +65,7 @@ frmFileDiffs::frmFileDiffs(QWidget* parent) : QMainWindow(parent) {
         new Commands(*this, *client_, [this] { return mousePointer_ == PointerHourglass; });
     BuildWidgets();
     ConnectCommands();
+    ConnectGridEvents();
     SizeToDesign();
 }
 

@@ -56,8 +56,18 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void Splitter_MouseDown(int button, float x);
     void Splitter_MouseMove(float x);
     void Splitter_MouseUp(float x);
-    // A drop on a file box: text first, else the first file of a list.
-    static bool DropOnFileBox(QComboBox& box, const QMimeData& data);
+    // A drop on a file box: a dropped file, else the text; then the box's Change event.
+    bool DropOnFileBox(QComboBox& box, const QMimeData& data);
+    // Grid events; `side` is the grid that raised it.
+    void Grid_Click(Side side);
+    void Grid_DblClick(Side side);
+    void Grid_MouseDown(Side side, int button, QPoint globalPos);
+    void Grid_MouseMove(Side side, long mouseRow);
+    bool RowsHaveNoColour() const;
+    bool EitherLineEmpty() const;
+    // A file box's text changed by the user: results never stand beside a changed path.
+    void FileBox_Change(Side side);
+    bool SuppressFileBoxEvents = false;
     const WindowRegions& Regions() const { return regions_; }
     void UpdateRowArrow();
     void SetCommandsForResults();
@@ -102,6 +112,9 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void ComparisonModeOption(int i);
     void OutputFormatOption(int i);
     FlexGridView& NamedGrid(const std::string& grid) const;
+    void ConnectGridEvents();
+    FlexGrid& GridOf(Side side) { return side == Side::Original ? originalGrid_ : revisedGrid_; }
+    bool ShowsPrompt(Side side);
     void SetMousePointer(int value);
     void Form_Unload();
     // The driver's steps, one routine per concern.
