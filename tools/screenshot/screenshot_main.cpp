@@ -29,6 +29,13 @@ int main(int argc, char* argv[]) {
     window.Form_Load("");
     gViewOptions->OutputFormat = OutputSideBySide;
     if (argc >= 6) window.resize(std::atoi(argv[4]), std::atoi(argv[5]));
+    QApplication::processEvents();
+    // Drag the splitter to the middle, as a user with a wide window would.
+    const Region& handle = window.Regions().Splitter;
+    const float middle = (window.Regions().grdRevisedFile.Left + window.Regions().grdRevisedFile.Width +
+                          window.Regions().grdOriginalFile.Left) / 2;
+    window.Splitter_MouseDown(1, 0);
+    window.Splitter_MouseUp(middle - handle.Left);
     window.OriginalFileBox()->setEditText(argv[1]);
     window.RevisedFileBox()->setEditText(argv[2]);
     window.CompareFiles(true);
