@@ -94,7 +94,8 @@ void frmFileDiffs::CompareFiles(bool SkipDialogue) {
             o.RevisedSourceType = types[1];
             o.OriginalDownloadFile.clear();
             o.RevisedDownloadFile.clear();
-            RunGridPath();
+            if (o.OutputFormat != OutputOneWindow) RunGridPath();
+            else RefuseOneWindowReport();
         }
     } catch (...) {
         if (CurrentErrorInfo().Number != kAutomationException)
@@ -116,6 +117,16 @@ void frmFileDiffs::DeleteTemporaryFiles() {
     DeleteIf(o.RevisedTextExtracted, o.RevisedTextFile);
     DeleteIf(o.OriginalSourceType == WebAddress, o.OriginalDownloadFile);
     DeleteIf(o.RevisedSourceType == WebAddress, o.RevisedDownloadFile);
+}
+
+// The merged one-window report is not built yet: say so rather than show nothing.
+void frmFileDiffs::RefuseOneWindowReport() {
+    StopAnimationAndClearStatus();
+    const std::string text = "The one-window report is not available in this version. Choose "
+                             "Options > Output Format > Show Changes Side by Side (Two Windows).";
+    if (gViewOptions->RunFromCommandLine) gViewOptions->CommandLineMessage = "Compare Files.  " + text;
+    else prompter().MsgBox(text, MsgIcon::Information, "Compare Files");
+    ResetResultsDisplay();
 }
 
 // Steps 14 and 15: compare line by line, then show the result in the grids.

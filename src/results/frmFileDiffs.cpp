@@ -103,6 +103,9 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
             grid->SetTextMatrix(0, 0, kIdlePrompt);
         }
         modIniFile::ReadProgramOptionsFromIniFile(*this);
+        ApplyNewFont(GridFontName(kGrdOriginalFile),
+                     RoundToInt32(GridFontSize(kGrdOriginalFile)),
+                     GridFontBold(kGrdOriginalFile), GridFontItalic(kGrdOriginalFile));
         ShowLineDiffPrompt();
         SetCommandsForNoResults();
         ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);

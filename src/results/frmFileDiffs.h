@@ -121,6 +121,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     bool CheckInputs(std::string& original, std::string& revised, int types[2]);
     void Refuse(const std::string& title, const std::string& text);
     void RunGridPath();
+    void RefuseOneWindowReport();
     void DeleteTemporaryFiles();
 
     FlexGrid originalGrid_;
