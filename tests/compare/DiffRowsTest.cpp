@@ -192,9 +192,10 @@ TEST(DiffRows, AlignedGridsAgreeWithGnuDiffOnRandomPairs) {
         long coloured = 0;
         for (long r = 1; r < original.Rows(); ++r) {
             const bool plain = !original.RowBackColor(r) && !revised.RowBackColor(r);
-            if (plain)
+            if (plain) {
                 EXPECT_EQ(LineTextOfCell(original.RowText(r), true),
                           LineTextOfCell(revised.RowText(r), true));
+            }
             coloured += !plain;
         }
         long listed = 0;

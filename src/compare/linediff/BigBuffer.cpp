@@ -11,11 +11,15 @@ constexpr std::size_t kHugePage = std::size_t(2) << 20;
 // Below this, ordinary heap blocks: a huge page for a small array would waste memory.
 constexpr std::size_t kBigThreshold = std::size_t(1) << 20;
 
-std::size_t MappedLength(std::size_t bytes) { return (bytes + kHugePage - 1) & ~(kHugePage - 1); }
+std::size_t MappedLength(std::size_t bytes) {
+    return (bytes + kHugePage - 1) & ~(kHugePage - 1);
+}
 
 } // namespace
 
-void ThrowBadAlloc() { throw std::bad_alloc(); }
+void ThrowBadAlloc() {
+    throw std::bad_alloc();
+}
 
 void* AllocateBig(std::size_t bytes) {
     if (bytes < kBigThreshold) return ::operator new(bytes);
@@ -36,8 +40,10 @@ void* AllocateBig(std::size_t bytes) {
 
 void FreeBig(void* p, std::size_t bytes) noexcept {
     if (!p) return;
-    if (bytes < kBigThreshold) ::operator delete(p);
-    else ::munmap(p, MappedLength(bytes));
+    if (bytes < kBigThreshold)
+        ::operator delete(p);
+    else
+        ::munmap(p, MappedLength(bytes));
 }
 
 } // namespace linediff

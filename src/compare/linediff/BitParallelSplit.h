@@ -13,7 +13,7 @@ namespace linediff {
 
 class BitParallelSplitter {
   public:
-    explicit BitParallelSplitter(std::uint32_t classCount);
+    BitParallelSplitter(std::uint32_t classCount, std::size_t maxMaskBytes);
 
     // Word operations of one split of the box.
     static std::uint64_t Cost(Box box);
@@ -23,11 +23,13 @@ class BitParallelSplitter {
   private:
     std::optional<Pos> Crossing(const std::uint32_t* bits, Pos nbits, const std::uint32_t* rows,
                                 Pos nrows);
+    Pos BestColumn(Pos nbits);
     bool BuildMasks(const std::uint32_t* bits, Pos nbits, const std::uint32_t* rows, Pos nrows,
                     std::uint32_t& symbols);
     void Forget(const std::uint32_t* bits, Pos nbits, const std::uint32_t* rows, Pos nrows);
 
     std::uint32_t classCount_;
+    std::size_t maxMaskBytes_;
     BigVector<std::int32_t> maskOf_; // class -> its mask row, or a negative mark (made on use)
     BigVector<std::uint64_t> forwardMasks_, reverseMasks_, v_;
     BigVector<std::uint32_t> lcsOfTail_;

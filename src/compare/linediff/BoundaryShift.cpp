@@ -14,20 +14,23 @@ struct Group {
 
 Group FirstGroup(const BigVector<std::uint8_t>& flags) {
     Group g;
-    while (g.end < flags.size() && flags[g.end]) ++g.end;
+    while (g.end < flags.size() && flags[g.end])
+        ++g.end;
     return g;
 }
 
 bool NextGroup(const BigVector<std::uint8_t>& flags, Group& g) {
     if (g.end == flags.size()) return false;
     g.start = g.end = g.end + 1;
-    while (g.end < flags.size() && flags[g.end]) ++g.end;
+    while (g.end < flags.size() && flags[g.end])
+        ++g.end;
     return true;
 }
 
 void PreviousGroup(const BigVector<std::uint8_t>& flags, Group& g) {
     g.end = g.start = g.start - 1;
-    while (g.start > 0 && flags[g.start - 1]) --g.start;
+    while (g.start > 0 && flags[g.start - 1])
+        --g.start;
 }
 
 class Shifter {
@@ -50,7 +53,8 @@ class Shifter {
         do {
             size = g.end - g.start;
             alignedEnd = kNone;
-            while (SlideUp(g)) PreviousGroup(other_, go);
+            while (SlideUp(g))
+                PreviousGroup(other_, go);
             if (!go.Empty()) alignedEnd = g.end;
             while (SlideDown(g)) {
                 NextGroup(other_, go);
@@ -58,7 +62,8 @@ class Shifter {
             }
         } while (size != g.end - g.start); // merged with a neighbour: place the whole again
         if (alignedEnd == kNone) return;
-        while (g.end > alignedEnd) SlideUp(g), PreviousGroup(other_, go);
+        while (g.end > alignedEnd)
+            SlideUp(g), PreviousGroup(other_, go);
     }
 
     // The line above the run equals its last line: the run moves up one, merging on contact.
@@ -66,7 +71,8 @@ class Shifter {
         if (g.start == 0 || ids_[g.start - 1] != ids_[g.end - 1]) return false;
         changed_[--g.start] = 1;
         changed_[--g.end] = 0;
-        while (g.start > 0 && changed_[g.start - 1]) --g.start;
+        while (g.start > 0 && changed_[g.start - 1])
+            --g.start;
         return true;
     }
 
@@ -74,7 +80,8 @@ class Shifter {
         if (g.end == changed_.size() || ids_[g.start] != ids_[g.end]) return false;
         changed_[g.start++] = 0;
         changed_[g.end++] = 1;
-        while (g.end < changed_.size() && changed_[g.end]) ++g.end;
+        while (g.end < changed_.size() && changed_[g.end])
+            ++g.end;
         return true;
     }
 

@@ -25,8 +25,10 @@ void Keep(const BigVector<std::uint32_t>& ids, const BigVector<std::uint8_t>& se
 ReducedSequences DiscardUnmatched(const ClassIds& ids, BigVector<std::uint8_t>& changedA,
                                   BigVector<std::uint8_t>& changedB) {
     BigVector<std::uint8_t> seen(ids.count, 0);
-    for (std::uint32_t c : ids.a) seen[c] |= kInA;
-    for (std::uint32_t c : ids.b) seen[c] |= kInB;
+    for (std::uint32_t c : ids.a)
+        seen[c] |= kInA;
+    for (std::uint32_t c : ids.b)
+        seen[c] |= kInB;
     ReducedSequences r;
     Keep(ids.a, seen, kInB, changedA, r.a, r.lineA);
     Keep(ids.b, seen, kInA, changedB, r.b, r.lineB);

@@ -12,10 +12,14 @@ namespace {
 // Lines are looked up this far ahead of use so that the table's cache miss overlaps other work.
 constexpr std::size_t kPrefetchDistance = 16;
 
+// The first line of a class; 16 bytes, since there may be millions.
 struct Representative {
+    static constexpr std::uint64_t kIncomplete = std::uint64_t(1) << 63;
     const char* data;
-    std::size_t length;
-    bool incomplete;
+    std::uint64_t lengthAndEnd; // length, and kIncomplete for a last line without LF
+
+    std::string_view Line() const { return {data, std::size_t(lengthAndEnd & ~kIncomplete)}; }
+    bool Incomplete() const { return (lengthAndEnd & kIncomplete) != 0; }
 };
 
 // Open addressing; a slot holds the upper half of the hash beside class + 1, 0 when empty.
@@ -48,14 +52,15 @@ class ClassTable {
     std::uint32_t Insert(std::size_t i, std::uint64_t tag, std::string_view line, bool incomplete) {
         if (reps_.size() >= 0xFFFFFFFEu) throw std::length_error("too many distinct lines");
         auto cls = static_cast<std::uint32_t>(reps_.size());
-        reps_.push_back({line.data(), line.size(), incomplete});
+        reps_.push_back(
+            {line.data(), line.size() | (incomplete ? Representative::kIncomplete : 0)});
         slots_[i] = (tag << 32) | (cls + 1u);
         return cls;
     }
 
     bool Same(const Representative& rep, std::string_view line, bool incomplete) const {
-        if (EndMatters(options_) && rep.incomplete != incomplete) return false;
-        return LinesEqual({rep.data, rep.length}, line, options_);
+        if (EndMatters(options_) && rep.Incomplete() != incomplete) return false;
+        return LinesEqual(rep.Line(), line, options_);
     }
 
     Options options_;

@@ -10,7 +10,7 @@ namespace linediff {
 struct ClassIds {
     BigVector<std::uint32_t> a; // class of each Original line
     BigVector<std::uint32_t> b; // class of each Revised line
-    std::uint32_t count = 0;      // classes are 0 .. count - 1
+    std::uint32_t count = 0;    // classes are 0 .. count - 1
 };
 
 ClassIds AssignClasses(const LineTable& a, const LineTable& b, const Options& options);

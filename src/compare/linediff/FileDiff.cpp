@@ -21,9 +21,12 @@ namespace {
 constexpr std::size_t kMaxLines = std::numeric_limits<std::int32_t>::max() / 2;
 
 // Flags the changed lines of both files, as a shortest edit script where the search affords it.
-void FindChanges(const LineTable& a, const LineTable& b, const Options& options,
+// Drops the hashes, which are not needed afterwards.
+void FindChanges(LineTable& a, LineTable& b, const Options& options,
                  BigVector<std::uint8_t>& changedA, BigVector<std::uint8_t>& changedB) {
     ClassIds ids = AssignClasses(a, b, options);
+    a.hashes = {};
+    b.hashes = {};
     changedA.assign(a.Count(), 0);
     changedB.assign(b.Count(), 0);
     {
@@ -45,7 +48,9 @@ Status Trouble(OutputLines& out, const std::string& message) {
     return kTrouble;
 }
 
-std::string Quoted(const std::string& path) { return "\"" + path + "\""; }
+std::string Quoted(const std::string& path) {
+    return "\"" + path + "\"";
+}
 
 } // namespace
 

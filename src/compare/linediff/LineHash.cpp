@@ -6,6 +6,9 @@
 namespace linediff {
 namespace {
 
+// Words are read little-endian: the tail loads below drop their leading bytes by shifting.
+static_assert(std::endian::native == std::endian::little);
+
 constexpr std::uint64_t kOnes = 0x0101010101010101ull;
 constexpr std::uint64_t kHigh = 0x8080808080808080ull;
 constexpr std::uint64_t kMul = 0x9E3779B97F4A7C15ull;
@@ -23,7 +26,9 @@ inline unsigned char FoldByte(unsigned char c) {
     return (c >= 'A' && c <= 'Z') ? static_cast<unsigned char>(c | 0x20) : c;
 }
 
-inline std::uint64_t Mix(std::uint64_t h, std::uint64_t w) { return (std::rotl(h, 23) ^ w) * kMul; }
+inline std::uint64_t Mix(std::uint64_t h, std::uint64_t w) {
+    return (std::rotl(h, 23) ^ w) * kMul;
+}
 
 inline std::uint64_t Finish(std::uint64_t h, std::uint64_t length) {
     h ^= length * kMul;
@@ -34,10 +39,32 @@ inline std::uint64_t Finish(std::uint64_t h, std::uint64_t length) {
     return h ^ (h >> 33);
 }
 
-inline std::uint64_t LoadTail(const char* p, std::size_t n) {
-    std::uint64_t w = 0;
-    std::memcpy(&w, p, n);
+inline std::uint64_t Load8(const char* p) {
+    std::uint64_t w;
+    std::memcpy(&w, p, 8);
     return w;
+}
+
+inline std::uint64_t Load4(const char* p) {
+    std::uint32_t w;
+    std::memcpy(&w, p, 4);
+    return w;
+}
+
+inline std::uint64_t Load2(const char* p) {
+    std::uint16_t w;
+    std::memcpy(&w, p, 2);
+    return w;
+}
+
+// The last 1..7 bytes of a run of `total` bytes that ends at `end`, as a zero-padded
+// little-endian word, read with whole loads (byte by byte the word stalls on its way back).
+inline std::uint64_t LoadTail(const char* end, std::size_t n, std::size_t total) {
+    if (total >= 8) return Load8(end - 8) >> (8 * (8 - n));
+    const char* p = end - n;
+    if (n >= 4) return Load4(p) | (Load4(end - 4) << (8 * (n - 4)));
+    if (n >= 2) return Load2(p) | (Load2(end - 2) << (8 * (n - 2)));
+    return static_cast<unsigned char>(*p);
 }
 
 // Bytes taken eight at a time as little-endian words: the same value as packing them one by one.
@@ -45,13 +72,10 @@ template <bool Fold> std::uint64_t HashWords(std::string_view line) {
     std::uint64_t h = 0;
     const char* p = line.data();
     std::size_t n = line.size();
-    for (; n >= 8; p += 8, n -= 8) {
-        std::uint64_t w;
-        std::memcpy(&w, p, 8);
-        h = Mix(h, Fold ? FoldWord(w) : w);
-    }
+    for (; n >= 8; p += 8, n -= 8)
+        h = Mix(h, Fold ? FoldWord(Load8(p)) : Load8(p));
     if (n) {
-        std::uint64_t w = LoadTail(p, n);
+        std::uint64_t w = LoadTail(p + n, n, line.size());
         h = Mix(h, Fold ? FoldWord(w) : w);
     }
     return Finish(h, line.size());
@@ -69,25 +93,25 @@ std::uint64_t HashWithoutBlanks(std::string_view line, bool fold) {
     return Finish(h, kept);
 }
 
-bool EqualFolded(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
-    const char* p = a.data();
-    const char* q = b.data();
-    std::size_t n = a.size();
+// Equal lengths assumed; with Fold, ASCII letters compare without regard to case.
+template <bool Fold> bool EqualWords(const char* p, const char* q, std::size_t total) {
+    std::size_t n = total;
     for (; n >= 8; p += 8, q += 8, n -= 8) {
-        std::uint64_t x, y;
-        std::memcpy(&x, p, 8);
-        std::memcpy(&y, q, 8);
-        if (x != y && FoldWord(x) != FoldWord(y)) return false;
+        std::uint64_t x = Load8(p), y = Load8(q);
+        if (x != y && (!Fold || FoldWord(x) != FoldWord(y))) return false;
     }
-    return n == 0 || FoldWord(LoadTail(p, n)) == FoldWord(LoadTail(q, n));
+    if (n == 0) return true;
+    std::uint64_t x = LoadTail(p + n, n, total), y = LoadTail(q + n, n, total);
+    return x == y || (Fold && FoldWord(x) == FoldWord(y));
 }
 
 bool EqualWithoutBlanks(std::string_view a, std::string_view b, bool fold) {
     std::size_t i = 0, j = 0;
     for (;;) {
-        while (i < a.size() && IsBlank(static_cast<unsigned char>(a[i]))) ++i;
-        while (j < b.size() && IsBlank(static_cast<unsigned char>(b[j]))) ++j;
+        while (i < a.size() && IsBlank(static_cast<unsigned char>(a[i])))
+            ++i;
+        while (j < b.size() && IsBlank(static_cast<unsigned char>(b[j])))
+            ++j;
         if (i == a.size() || j == b.size()) return i == a.size() && j == b.size();
         unsigned char x = static_cast<unsigned char>(a[i++]);
         unsigned char y = static_cast<unsigned char>(b[j++]);
@@ -104,8 +128,9 @@ std::uint64_t HashLine(std::string_view line, const Options& options) {
 
 bool LinesEqual(std::string_view a, std::string_view b, const Options& options) {
     if (options.ignoreWhiteSpace) return EqualWithoutBlanks(a, b, options.ignoreCase);
-    if (options.ignoreCase) return EqualFolded(a, b);
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size()) == 0;
+    if (a.size() != b.size()) return false;
+    if (options.ignoreCase) return EqualWords<true>(a.data(), b.data(), a.size());
+    return EqualWords<false>(a.data(), b.data(), a.size());
 }
 
 } // namespace linediff

@@ -29,6 +29,8 @@ LineTable BuildLineTable(std::string_view text, const Options& options);
 
 // Whether the missing final LF makes a line differ from the same text with one. White space
 // includes the line end when it is ignored, so then it does not.
-inline bool EndMatters(const Options& options) { return !options.ignoreWhiteSpace; }
+inline bool EndMatters(const Options& options) {
+    return !options.ignoreWhiteSpace;
+}
 
 } // namespace linediff

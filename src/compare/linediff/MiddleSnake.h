@@ -9,8 +9,8 @@
 namespace linediff {
 
 struct SearchLimits {
-    Pos maxCost;             // edit steps per wave before giving up with the furthest point
-    std::uint64_t maxWork;   // diagonals visited plus items compared before handing over
+    Pos maxCost;           // edit steps per wave before giving up with the furthest point
+    std::uint64_t maxWork; // diagonals visited plus items compared before handing over
 };
 
 enum class SearchOutcome {
@@ -32,11 +32,17 @@ class MiddleSnakeSearch {
     SearchResult Run(const std::uint32_t* a, const std::uint32_t* b, Box box, SearchLimits limits);
 
   private:
-    Split Furthest(Box box, Pos fmin, Pos fmax, Pos bmin, Pos bmax) const;
+    Pos Forward(const std::uint32_t* a, const std::uint32_t* b, const Box& box, bool meet,
+                std::uint64_t& work);
+    Pos Backward(const std::uint32_t* a, const std::uint32_t* b, const Box& box, bool meet,
+                 std::uint64_t& work);
+    Split Furthest(const Box& box) const;
 
+    // Furthest x per diagonal of each wave, and the diagonals each wave covers.
     BigArray<Pos> forward_, backward_;
     Pos* fd_;
     Pos* bd_;
+    Pos fmin_ = 0, fmax_ = 0, bmin_ = 0, bmax_ = 0;
 };
 
 } // namespace linediff

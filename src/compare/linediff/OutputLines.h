@@ -26,6 +26,10 @@ class OutputLines {
     std::string_view Line(std::size_t i) const {
         return {text_.data() + starts_[i], starts_[i + 1] - starts_[i] - 1};
     }
+    void Reserve(std::size_t bytes, std::size_t lines) {
+        text_.reserve(bytes);
+        starts_.reserve(lines + 1);
+    }
     // All lines, each followed by LF.
     std::string_view Text() const { return {text_.data(), text_.size()}; }
 

@@ -11,10 +11,12 @@
 namespace linediff {
 namespace {
 
-// Edit steps per wave before a box counts as too long to search exactly. Never below the give-up
-// point of the common line differs, so whatever they find exactly is found exactly here too.
+// Edit steps per wave before a box counts as too long to search exactly. Never below the point
+// where the classic line differs give up, so whatever they find exactly is found exactly here.
 constexpr Pos kMinCostCap = 4096;
+constexpr std::uint64_t kUnlimited = std::numeric_limits<std::uint64_t>::max();
 
+// Grows with the square root of the sizes, so a huge file still gets a search in proportion.
 Pos CostCap(const SearchTuning& tuning, std::size_t n, std::size_t m) {
     if (tuning.costCap > 0) return tuning.costCap;
     return std::max(kMinCostCap, static_cast<Pos>(2 * std::sqrt(static_cast<double>(n + m))));
@@ -27,8 +29,9 @@ class Comparer {
              BigVector<std::uint8_t>& changedB, const SearchTuning& tuning)
         : a_(a.data()), b_(b.data()), changedA_(changedA), changedB_(changedB), tuning_(tuning),
           costCap_(CostCap(tuning, a.size(), b.size())), snakes_(a.size(), b.size()),
-          bits_(classCount), anchors_(classCount) {}
+          bits_(classCount, tuning.maxMaskBytes), anchors_(classCount) {}
 
+    // Boxes wait on a stack rather than in recursion: an approximate cut may be lopsided.
     void Run(Box whole) {
         std::vector<Box> pending{whole};
         while (!pending.empty()) {
@@ -45,29 +48,34 @@ class Comparer {
   private:
     // Takes off equal heads and tails; marks a box with one empty side. False when done.
     bool Trim(Box& box) {
-        while (box.xl < box.xh && box.yl < box.yh && a_[box.xl] == b_[box.yl]) ++box.xl, ++box.yl;
+        while (box.xl < box.xh && box.yl < box.yh && a_[box.xl] == b_[box.yl])
+            ++box.xl, ++box.yl;
         while (box.xl < box.xh && box.yl < box.yh && a_[box.xh - 1] == b_[box.yh - 1])
             --box.xh, --box.yh;
-        if (box.xl == box.xh) std::fill(changedB_.begin() + box.yl, changedB_.begin() + box.yh, 1);
+        if (box.xl == box.xh)
+            std::fill(changedB_.begin() + box.yl, changedB_.begin() + box.yh, 1);
         else if (box.yl == box.yh)
             std::fill(changedA_.begin() + box.xl, changedA_.begin() + box.xh, 1);
-        else return true;
+        else
+            return true;
         return false;
     }
 
-    Split FindSplit(Box box) {
+    // A point on a shortest path through the box where finding one is affordable, else a guess.
+    Split FindSplit(const Box& box) {
         std::uint64_t bitCost = BitParallelSplitter::Cost(box);
-        bool bitsAllowed = bitCost <= tuning_.maxBitParallelCost;
-        auto patience = static_cast<std::uint64_t>(static_cast<double>(bitCost) * tuning_.workPerWordOp);
-        SearchLimits limits{costCap_, bitsAllowed ? patience : std::numeric_limits<std::uint64_t>::max()};
-        SearchResult r = snakes_.Run(a_, b_, box, limits);
-        if (r.outcome == SearchOutcome::Found) return r.split;
+        // The O(ND) search goes first, being fastest with few differences; it hands over to the
+        // bit-parallel split once it has spent about what that would cost.
+        std::uint64_t patience =
+            bitCost <= tuning_.maxBitParallelCost
+                ? static_cast<std::uint64_t>(double(bitCost) * tuning_.workPerWordOp)
+                : kUnlimited;
+        SearchResult r = snakes_.Run(a_, b_, box, {costCap_, patience});
         if (r.outcome == SearchOutcome::TooCostly) {
             if (auto s = bits_.Run(a_, b_, box)) return *s;
-            limits.maxWork = std::numeric_limits<std::uint64_t>::max();
-            r = snakes_.Run(a_, b_, box, limits);
-            if (r.outcome == SearchOutcome::Found) return r.split;
+            r = snakes_.Run(a_, b_, box, {costCap_, kUnlimited}); // its masks were too big
         }
+        if (r.outcome == SearchOutcome::Found) return r.split;
         if (auto s = anchors_.Find(a_, b_, box)) return *s;
         return r.split;
     }

@@ -14,9 +14,10 @@ namespace linediff {
 // How hard the search tries before it changes strategy. The defaults are measured; tests lower
 // them to drive every strategy on small inputs.
 struct SearchTuning {
-    Pos costCap = 0;                                     // edit steps per wave; 0: from the sizes
+    Pos costCap = 0;            // edit steps per wave; 0: from the sizes
     double workPerWordOp = 0.4; // O(ND) steps (diagonal or snake) as costly as one word operation
     std::uint64_t maxBitParallelCost = std::uint64_t(1) << 27; // word operations per split
+    std::size_t maxMaskBytes = std::size_t(64) << 20;          // bit-parallel memory per split
 };
 
 // `changedA` / `changedB` are sized like `a` / `b`; changed items are set to 1.

@@ -5,8 +5,6 @@
 
 #include "FileDiff.h"
 
-#include <new>
-
 struct LdEngine {
     linediff::Options options;
     linediff::OutputLines output;
@@ -14,9 +12,17 @@ struct LdEngine {
 
 extern "C" {
 
-LdEngine* LD_Create(void) { return new (std::nothrow) LdEngine; }
+LdEngine* LD_Create(void) {
+    try {
+        return new LdEngine;
+    } catch (...) {
+        return nullptr;
+    }
+}
 
-void LD_Destroy(LdEngine* engine) { delete engine; }
+void LD_Destroy(LdEngine* engine) {
+    delete engine;
+}
 
 void LD_SetIgnoreCase(LdEngine* engine, int on) {
     if (engine) engine->options.ignoreCase = on != 0;
@@ -32,12 +38,17 @@ void LD_SetForceText(LdEngine* engine, int on) {
 
 int LD_CompareFiles(LdEngine* engine, const char* originalPath, const char* revisedPath) {
     if (!engine) return linediff::kTrouble;
-    if (!originalPath || !revisedPath) {
+    try {
+        if (!originalPath || !revisedPath) {
+            engine->output.Clear();
+            engine->output.Add("No file name given for the comparison");
+            return linediff::kTrouble;
+        }
+        return linediff::CompareFiles(originalPath, revisedPath, engine->options, engine->output);
+    } catch (...) { // nothing may cross into the caller, not even a failure to report a failure
         engine->output.Clear();
-        engine->output.Add("No file name given for the comparison");
         return linediff::kTrouble;
     }
-    return linediff::CompareFiles(originalPath, revisedPath, engine->options, engine->output);
 }
 
 long LD_OutputLineCount(const LdEngine* engine) {

@@ -8,21 +8,27 @@
 
 namespace {
 
-constexpr char kUsage[] =
-    "usage: linediff ORIGINAL REVISED [-i] [-w] [-a]\n"
-    "  -i  ignore the case of letters\n"
-    "  -w  ignore all white space\n"
-    "  -a  treat all files as text\n"
-    "Exit status: 0 identical, 1 different, 2 trouble.\n";
+constexpr char kUsage[] = "usage: linediff ORIGINAL REVISED [-i] [-w] [-a]\n"
+                          "  -i  ignore the case of letters\n"
+                          "  -w  ignore all white space\n"
+                          "  -a  treat all files as text\n"
+                          "Exit status: 0 identical, 1 different, 2 trouble.\n";
 
 bool ParseSwitches(const std::string& arg, linediff::Options& options) {
     if (arg.size() < 2) return false;
     for (std::size_t i = 1; i < arg.size(); ++i) {
         switch (arg[i]) {
-        case 'i': options.ignoreCase = true; break;
-        case 'w': options.ignoreWhiteSpace = true; break;
-        case 'a': options.forceText = true; break;
-        default: return false;
+        case 'i':
+            options.ignoreCase = true;
+            break;
+        case 'w':
+            options.ignoreWhiteSpace = true;
+            break;
+        case 'a':
+            options.forceText = true;
+            break;
+        default:
+            return false;
         }
     }
     return true;
@@ -33,10 +39,12 @@ bool ParseArguments(int argc, char** argv, linediff::Options& options,
     bool switchesDone = false;
     for (int i = 1; i < argc; ++i) {
         std::string arg = argv[i];
-        if (!switchesDone && arg == "--") switchesDone = true;
+        if (!switchesDone && arg == "--")
+            switchesDone = true;
         else if (!switchesDone && arg.size() > 1 && arg[0] == '-') {
             if (!ParseSwitches(arg, options)) return false;
-        } else paths.push_back(arg);
+        } else
+            paths.push_back(arg);
     }
     return paths.size() == 2;
 }
@@ -53,7 +61,7 @@ int main(int argc, char** argv) {
     linediff::OutputLines out;
     linediff::Status status = linediff::CompareFiles(paths[0], paths[1], options, out);
     std::string_view text = out.Text();
-    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size() || std::fflush(stdout))
-        return linediff::kTrouble;
+    bool written = text.empty() || std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+    if (!written || std::fflush(stdout) != 0) return linediff::kTrouble;
     return status;
 }
