@@ -83,6 +83,7 @@ void frmFileDiffs::CompareFiles(bool SkipDialogue) {
             StartAnimation();
             gridsFrozen = true;
             PrepareGridForNewComparison(originalGrid_, revisedGrid_);
+            PrepareDiffsBarForNewComparison();
             cViewFileDiffsOptions& o = *gViewOptions;
             o.OriginalFile = original;
             o.RevisedFile = revised;
@@ -146,7 +147,14 @@ void frmFileDiffs::RunGridPath() {
         ResetResultsDisplay();
         return;
     }
+    DrawDiffBars(ok);
+    if (!ok) {
+        ResetResultsDisplay();
+        return;
+    }
     ShowLineDiffPrompt();
+    mnuFileShowFirstDiff_Click();
+    AddFilesToIni(gViewOptions->OriginalFile, gViewOptions->RevisedFile);
 }
 
 void frmFileDiffs::CompareFilesAndStoreResultsInGlobalDiffObject(std::string& Message, bool& Ok) {
@@ -201,6 +209,7 @@ void frmFileDiffs::DisplayComparisonResultsInGrid(bool& Ok) {
             originalGrid_.SetRow(1);
             revisedGrid_.SetRow(1);
             UpdateRowArrow();
+            MarkCurrentRowInDiffsBar();
         }
         SetCommandsForResults();
         Ok = true;

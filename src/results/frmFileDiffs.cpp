@@ -8,6 +8,7 @@
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
 #include "results/Commands.h"
+#include "results/DiffBarView.h"
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
 #include "settings/ExtractionOptions.h"
@@ -87,6 +88,8 @@ void frmFileDiffs::BuildWidgets() {
     connect(grdRevisedFile, &FlexGridView::TopRowChanged, this,
             [this](long top) { originalGrid_.SetTopRow(top); });
     Splitter = MakeSplitterHandle(*this, client_);
+    pctContainer = new DiffBarView(client_);
+    connect(pctContainer, &DiffBarView::Pressed, this, [this](float y) { DiffsBar_MouseDown(y); });
     rtfLineDiff[0] = MakeDetailBox("rtfLineDiff(0)", client_);
     rtfLineDiff[1] = MakeDetailBox("rtfLineDiff(1)", client_);
     Animation1 = new QProgressBar(client_);
@@ -108,6 +111,7 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
                      GridFontBold(kGrdOriginalFile), GridFontItalic(kGrdOriginalFile));
         ShowLineDiffPrompt();
         SetCommandsForNoResults();
+        PopulateFileComboBoxesFromIniFile();
         ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);
         const bool firstRun = !std::filesystem::exists(IniFilePath());
         if (!commandLine.empty()) {
@@ -174,6 +178,7 @@ void frmFileDiffs::ResetResultsDisplay() {
         grid->Clear();
         grid->SetTextMatrix(0, 0, kIdlePrompt);
     }
+    pctContainer->Clear();
     SetCommandsForNoResults();
     originalGrid_.SetRow(1);
     revisedGrid_.SetRow(1);
@@ -213,11 +218,13 @@ void frmFileDiffs::UpdateRowArrow() {
     const long newRow = originalGrid_.Row();
     if (PreviousArrowRow != 0 && PreviousArrowRow < originalGrid_.Rows()) {
         originalGrid_.SetRow(PreviousArrowRow);
-        originalGrid_.SetCellPicture(CellPictureId::None);
+        originalGrid_.SetCellPicture(RowIsBookmarked(PreviousArrowRow) ? CellPictureId::Bookmark
+                                                                       : CellPictureId::None);
     }
     originalGrid_.SetRow(newRow);
     const Colour c = originalGrid_.CellBackColor();
-    originalGrid_.SetCellPicture(c == ColourOrphanRows   ? CellPictureId::OrphanArrow
+    originalGrid_.SetCellPicture(RowIsBookmarked(newRow)  ? CellPictureId::BookmarkArrow
+                                 : c == ColourOrphanRows ? CellPictureId::OrphanArrow
                                  : c == ColourDifferRows ? CellPictureId::DifferArrow
                                                          : CellPictureId::Arrow);
     PreviousArrowRow = newRow;

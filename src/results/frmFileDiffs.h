@@ -19,10 +19,12 @@ class QTextEdit;
 namespace orvane {
 
 class Commands;
+class DiffBarView;
 class FlexGridView;
 
 QWidget* MakeSplitterHandle(class frmFileDiffs& window, QWidget* parent);
 
+inline constexpr long kNavigationBusy = -999;
 inline constexpr const char* kIdlePrompt = "Select two files then press the Compare button";
 inline constexpr const char* kDetailPrompt =
     "Click on a line in either file to see how it differs from its counterpart in the other file.";
@@ -51,6 +53,42 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void StartAnimation();
     void StopAnimationAndClearStatus();
     void ResetDiffState();
+    // The difference bar.
+    void PrepareDiffsBarForNewComparison();
+    void DrawDiffBars(bool& Ok);
+    void MarkCurrentRowInDiffsBar();
+    void ScrollFilesToPointInDiffBar(float Y);
+    void DiffsBar_MouseDown(float Y);
+    // Navigation: a row number, kNoMoreDiffs, or kNavigationBusy.
+    long GetNextDiff();
+    long GetPreviousDiff();
+    void FollowRow(long Row);
+    void mnuFileShowFirstDiff_Click();
+    void mnuFileShowNextDiff_Click();
+    void mnuFileShowPreviousDiff_Click();
+    void mnuFileShowLastDiff_Click();
+    // Bookmarks: the mark is the picture in the Original grid's cell.
+    bool RowIsBookmarked(long Row);
+    void ToggleBookmark();
+    void ClearAllBookmarks();
+    long GetNextBookmark();
+    long GetPreviousBookmark();
+    void UpdateBookmarkCommands();
+    const std::vector<long>& Bookmarks() const { return BookmarkList; }
+    // Find.
+    bool Find(const std::string& SearchText, const std::string& Direction, long& FoundRow);
+    void mnuFileFind_Click();
+    void mnuFileFindAgain_Click(bool forward);
+    void EnableFindAgainCommands(bool Enabled);
+    // The detail pane.
+    void ShowDetailForCurrentRow();
+    void DisplayLineDiffs();
+    void DisplaySelectedLinesInRTF();
+    void DisplayLineDiffsLineLevel();
+    void DisplayLineDiffsCharLevel();
+    void DisplayLineDiffsWordLevel();
+    QTextEdit* DetailBox(int index) const { return rtfLineDiff[index]; }
+    DiffBarView* DiffsBar() const { return pctContainer; }
     void Form_Resize();
     void ApplyNewFont(const std::string& FontName, int FontSize, bool FontBold, bool FontItalic);
     void Splitter_MouseDown(int button, float x);
@@ -67,6 +105,9 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     bool EitherLineEmpty() const;
     // A file box's text changed by the user: results never stand beside a changed path.
     void FileBox_Change(Side side);
+    void PopulateFileComboBoxesFromIniFile();
+    void AddFilesToIni(const std::string& Original, const std::string& Revised);
+    QComboBox* FileBox(Side side) const;
     bool SuppressFileBoxEvents = false;
     const WindowRegions& Regions() const { return regions_; }
     void UpdateRowArrow();
@@ -111,10 +152,18 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void ConnectCommands();
     void ComparisonModeOption(int i);
     void OutputFormatOption(int i);
+    void DiffDetailOption(int i);
     FlexGridView& NamedGrid(const std::string& grid) const;
     void ConnectGridEvents();
     FlexGrid& GridOf(Side side) { return side == Side::Original ? originalGrid_ : revisedGrid_; }
     bool ShowsPrompt(Side side);
+    long ScanForDiff(bool forward, const char* location);
+    long ScanBookmarks(bool forward);
+    void StepToBookmark(bool forward);
+    void StepToDiff(bool forward);
+    void ShowFirstOrLast(bool first);
+    // The current row's two lines, cut by the line text rule.
+    std::string CurrentLine(Side side) const;
     void SetMousePointer(int value);
     void Form_Unload();
     // The driver's steps, one routine per concern.
@@ -132,6 +181,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     QComboBox* cboRevisedFile = nullptr;
     QTextEdit* rtfLineDiff[2] = {nullptr, nullptr};
     QProgressBar* Animation1 = nullptr;
+    DiffBarView* pctContainer = nullptr;
     QWidget* client_ = nullptr;
     QWidget* Splitter = nullptr;
     WindowRegions regions_;

@@ -57,6 +57,17 @@ void frmFileDiffs::ConnectCommands() {
     Commands& c = *commands_;
     c.On("mnuFileCompare", [this] { mnuFileCompare_Click(); });
     c.On("mnuFileExit", [this] { close(); });
+    c.On("mnuFileShowFirstDiff", [this] { mnuFileShowFirstDiff_Click(); });
+    c.On("mnuFileShowNextDiff", [this] { mnuFileShowNextDiff_Click(); });
+    c.On("mnuFileShowPreviousDiff", [this] { mnuFileShowPreviousDiff_Click(); });
+    c.On("mnuFileShowLastDiff", [this] { mnuFileShowLastDiff_Click(); });
+    c.On("mnuFileToggleBookmark", [this] { ToggleBookmark(); });
+    c.On("mnuFileNextBookmark", [this] { StepToBookmark(true); });
+    c.On("mnuFilePreviousBookmark", [this] { StepToBookmark(false); });
+    c.On("mnuFileClearAllBookmarks", [this] { ClearAllBookmarks(); });
+    c.On("mnuFileFind", [this] { mnuFileFind_Click(); });
+    c.On("mnuFileFindNext", [this] { mnuFileFindAgain_Click(true); });
+    c.On("mnuFileFindPrevious", [this] { mnuFileFindAgain_Click(false); });
     for (const Toggle& t : kToggles) {
         QAction* item = c.Item(t.name);
         item->setCheckable(true);
@@ -78,6 +89,7 @@ void frmFileDiffs::ConnectCommands() {
         c.Item("mnuOptionsComparisonModeOption", i)->setCheckable(true);
         c.On("mnuOptionsComparisonModeOption", [this, i] { ComparisonModeOption(i); }, i);
         c.Item("mnuOptionsDiffDetailOption", i)->setCheckable(true);
+        c.On("mnuOptionsDiffDetailOption", [this, i] { DiffDetailOption(i); }, i);
     }
     for (int i = 0; i < 2; ++i) {
         c.Item("mnuOptionsOutputFormatOption", i)->setCheckable(true);
@@ -105,6 +117,14 @@ void frmFileDiffs::OutputFormatOption(int i) {
     CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, i);
     gViewOptions->OutputFormat = i;
     CompareFiles(true);
+}
+
+// Two windows: the selected row is shown again at the new level; one window compares again.
+void frmFileDiffs::DiffDetailOption(int i) {
+    CheckOnly(*commands_, "mnuOptionsDiffDetailOption", 3, i);
+    gViewOptions->ComparisonLevel = i;
+    if (gViewOptions->OutputFormat != OutputOneWindow) Grid_Click(Side::Original);
+    else CompareFiles(true);
 }
 
 void frmFileDiffs::SetCommandsForNoResults() {

@@ -44,6 +44,8 @@ void frmFileDiffs::Grid_Click(Side side) {
     if (ShowsPrompt(side)) return;
     GridOf(Other(side)).SetRow(GridOf(side).Row());
     UpdateRowArrow();
+    MarkCurrentRowInDiffsBar();
+    ShowDetailForCurrentRow();
 }
 
 void frmFileDiffs::Grid_DblClick(Side side) {
@@ -76,9 +78,5 @@ bool frmFileDiffs::EitherLineEmpty() const {
            LineTextOfCell(revisedGrid_.Text(), numbers).empty();
 }
 
-void frmFileDiffs::FileBox_Change(Side side) {
-    if (SuppressFileBoxEvents) return;
-    if (GridOf(side).TextMatrix(0, 0).empty()) ResetResultsDisplay();
-}
 
 } // namespace orvane

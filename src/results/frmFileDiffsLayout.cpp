@@ -3,6 +3,7 @@
 #include "compare/ViewOptions.h"
 #include "frame/Globals.h"
 #include "results/Commands.h"
+#include "results/DiffBarView.h"
 #include "results/FlexGridView.h"
 #include "results/frmFileDiffs.h"
 
@@ -27,6 +28,8 @@ constexpr float kDesignClientWidth = 10290;
 constexpr float kDesignClientHeight = 6630;
 constexpr float kToolbarHeight = 540;
 const Region kAnimation{7980, 180, 2205, 285};
+const Region kBarContainer{60, 870, 405, 2925};
+const Region kBar{60, 0, 225, 2865}; // inside the container
 
 class SplitterHandle : public QWidget {
   public:
@@ -103,6 +106,8 @@ void frmFileDiffs::PlaceRegions() {
     };
     commands_->Toolbar()->setGeometry(0, 0, client_->width(), Pixels(kToolbarHeight));
     place(Animation1, kAnimation);
+    place(pctContainer, kBarContainer);
+    place(pctContainer->Bar(), kBar);
     Animation1->raise();
     place(cboOriginalFile, regions_.cboOriginalFile);
     place(cboRevisedFile, regions_.cboRevisedFile);
@@ -140,17 +145,6 @@ void frmFileDiffs::ApplyNewFont(const std::string& FontName, int FontSize, bool 
         SetGridFontBold(grid, FontBold);
         SetGridFontItalic(grid, FontItalic);
     }
-}
-
-// A file manager offers a dragged file both as a file list and as its address in text; the file
-// list is what the user means then. Any other text is taken as it is.
-bool frmFileDiffs::DropOnFileBox(QComboBox& box, const QMimeData& data) {
-    const QList<QUrl> urls = data.urls();
-    if (!urls.isEmpty() && urls.first().isLocalFile()) box.setEditText(urls.first().toLocalFile());
-    else if (data.hasText()) box.setEditText(data.text());
-    else return false;
-    FileBox_Change(&box == cboOriginalFile ? Side::Original : Side::Revised);
-    return true;
 }
 
 bool frmFileDiffs::eventFilter(QObject* watched, QEvent* event) {

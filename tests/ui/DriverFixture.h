@@ -1,0 +1,55 @@
+#pragma once
+// A main window with the real engines from the build's program folder and a recording prompter.
+#include "compare/FileDiffEngine.h"
+#include "compare/ViewOptions.h"
+#include "frame/EngineLibraries.h"
+#include "frame/Globals.h"
+#include "results/frmFileDiffs.h"
+#include "settings/ExtractionOptions.h"
+#include "support/RecordingPrompter.h"
+#include "support/TempDir.h"
+
+#include <QComboBox>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace orvane::test {
+
+class DriverTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        gAppPath = ORVANE_BIN_DIR;
+        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+        gViewOptions->OutputFormat = OutputSideBySide;
+        gViewOptions->ComparisonMode = ModeCode;
+        gFileDiff = std::make_unique<FileDiffEngine>();
+        gExtractionOptions = std::make_unique<clsExtractionOptions>();
+        // Engines come from the build; settings and error files go to a folder of our own.
+        LoadEngine(Engine::KWCommon, ORVANE_BIN_DIR);
+        gAppPath = dir.Path();
+        window = std::make_unique<frmFileDiffs>();
+        window->Form_Load("");
+        prompter->boxes.clear();
+        prompter->helpContexts.clear();
+    }
+    void TearDown() override {
+        window.reset();
+        gViewOptions.reset();
+        gFileDiff.reset();
+        gExtractionOptions.reset();
+    }
+
+    void Compare(const std::string& original, const std::string& revised) {
+        window->OriginalFileBox()->setEditText(QString::fromStdString(original));
+        window->RevisedFileBox()->setEditText(QString::fromStdString(revised));
+        window->CompareFiles(true);
+    }
+
+    bool Idle() { return window->OriginalGrid().TextMatrix(0, 0) == kIdlePrompt; }
+
+    TempDir dir;
+    ScopedRecordingPrompter prompter;
+    std::unique_ptr<frmFileDiffs> window;
+};
+
+} // namespace orvane::test
