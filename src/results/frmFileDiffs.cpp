@@ -80,6 +80,7 @@ void frmFileDiffs::BuildWidgets() {
         box->setAcceptDrops(true);
         box->lineEdit()->setAcceptDrops(false); // the box, not its editor, takes drops
         box->installEventFilter(this);
+        box->lineEdit()->installEventFilter(this);
     }
     grdOriginalFile = new FlexGridView(originalGrid_, "grdOriginalFile", client_);
     grdRevisedFile = new FlexGridView(revisedGrid_, "grdRevisedFile", client_);

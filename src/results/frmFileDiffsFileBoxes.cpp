@@ -1,14 +1,35 @@
 // The two file boxes: their lists of recent inputs, drops, and the rule that results never
 // stand beside a changed path.
+#include "dialogs/AutoCompletePath.h"
 #include "frame/ErrorReporter.h"
 #include "results/frmFileDiffs.h"
 #include "settings/RecentFiles.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QUrl>
 
 namespace orvane {
+namespace {
+
+// A file box as completion sees it.
+class FileBoxControl : public PathControl {
+  public:
+    explicit FileBoxControl(QComboBox& box) : box_(box) {}
+    std::string Text() const override { return box_.currentText().toStdString(); }
+    void SetText(const std::string& text) override {
+        box_.lineEdit()->setText(QString::fromStdString(text));
+    }
+    void Select(long start, long length) override {
+        box_.lineEdit()->setSelection(static_cast<int>(start), static_cast<int>(length));
+    }
+
+  private:
+    QComboBox& box_;
+};
+
+} // namespace
 
 QComboBox* frmFileDiffs::FileBox(Side side) const {
     return side == Side::Original ? cboOriginalFile : cboRevisedFile;
@@ -57,6 +78,8 @@ void frmFileDiffs::AddFilesToIni(const std::string& Original, const std::string&
 
 void frmFileDiffs::FileBox_Change(Side side) {
     if (SuppressFileBoxEvents) return;
+    FileBoxControl control(*FileBox(side));
+    modAutoCompletePath::AutoCompletePath(control);
     if (GridOf(side).TextMatrix(0, 0).empty()) ResetResultsDisplay();
 }
 

@@ -2,6 +2,7 @@
 // widgets, the splitter handle, and drops on the file boxes.
 #include "compare/ViewOptions.h"
 #include "frame/Globals.h"
+#include "dialogs/AutoCompletePath.h"
 #include "results/Commands.h"
 #include "results/DiffBarView.h"
 #include "results/FlexGridView.h"
@@ -10,6 +11,8 @@
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -148,6 +151,11 @@ void frmFileDiffs::ApplyNewFont(const std::string& FontName, int FontSize, bool 
 }
 
 bool frmFileDiffs::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress &&
+        (watched == cboOriginalFile->lineEdit() || watched == cboRevisedFile->lineEdit())) {
+        const QString text = static_cast<QKeyEvent*>(event)->text();
+        modAutoCompletePath::KeyPress(text.size() == 1 ? text[0].unicode() : 0);
+    }
     auto* box = qobject_cast<QComboBox*>(watched);
     if (box && (box == cboOriginalFile || box == cboRevisedFile)) {
         if (event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove) {

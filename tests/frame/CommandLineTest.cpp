@@ -24,6 +24,8 @@ struct Case {
     const char* report;
 };
 
+void PrintTo(const Case& c, std::ostream* os) { *os << c.line; }
+
 class CommandLineCases : public ::testing::TestWithParam<Case> {};
 
 TEST_P(CommandLineCases, SplitsIntoTheThreeTokens) {

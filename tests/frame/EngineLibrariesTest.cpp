@@ -22,6 +22,8 @@ struct ProbeCase {
     const char* reported;
 };
 
+void PrintTo(const ProbeCase& c, std::ostream* os) { *os << c.reported; }
+
 class Probe : public ::testing::TestWithParam<ProbeCase> {
   protected:
     void SetUp() override { FreeEngines(); } // other tests may hold the engines from bin/

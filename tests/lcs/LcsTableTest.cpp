@@ -58,6 +58,8 @@ struct EndsCase {
     const char* marksB;
 };
 
+void PrintTo(const EndsCase& c, std::ostream* os) { *os << c.a << " / " << c.b; }
+
 class FirstLastDiffTest : public ::testing::TestWithParam<EndsCase> {};
 
 TEST_P(FirstLastDiffTest, MarksTheEndsAndGivesTheMiddle) {

@@ -36,6 +36,8 @@ struct CliCase {
     const char* out;
 };
 
+void PrintTo(const CliCase& c, std::ostream* os) { *os << c.first << " / " << c.second << " " << c.options; }
+
 class LinediffsCliTest : public ::testing::TestWithParam<CliCase> {};
 
 TEST_P(LinediffsCliTest, PrintsTheMarksOfTheFirstLines) {

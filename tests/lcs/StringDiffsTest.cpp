@@ -39,6 +39,10 @@ struct DiffCase {
     std::int32_t result;
 };
 
+void PrintTo(const DiffCase& c, std::ostream* os) {
+    *os << (c.words ? "words: " : "chars: ") << std::u32string(c.a).size() << "/" << std::u32string(c.b).size();
+}
+
 class LineDiffTest : public ::testing::TestWithParam<DiffCase> {};
 
 TEST_P(LineDiffTest, MarksEachElement) {

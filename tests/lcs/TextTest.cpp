@@ -16,6 +16,8 @@ struct DecodeCase {
     const char32_t* text;
 };
 
+void PrintTo(const DecodeCase& c, std::ostream* os) { *os << std::string(c.bytes).size() << " bytes"; }
+
 class DecodeTest : public ::testing::TestWithParam<DecodeCase> {};
 
 TEST_P(DecodeTest, GivesOneElementPerCharacter) {
@@ -50,6 +52,8 @@ struct SplitCase {
     const char32_t* text;
     std::vector<std::u32string> words;
 };
+
+void PrintTo(const SplitCase& c, std::ostream* os) { *os << c.words.size() << " words"; }
 
 class ParseWordsTest : public ::testing::TestWithParam<SplitCase> {};
 

@@ -14,6 +14,8 @@ struct LongCase {
     std::optional<std::int32_t> Expected; // nullopt: not numeric
 };
 
+void PrintTo(const LongCase& c, std::ostream* os) { *os << '"' << c.Text << '"'; }
+
 class ToLong : public ::testing::TestWithParam<LongCase> {};
 
 TEST_P(ToLong, TestsAndRounds) {

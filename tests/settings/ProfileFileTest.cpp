@@ -19,6 +19,8 @@ struct ReadCase {
     std::string Expected; // default is "dflt"
 };
 
+void PrintTo(const ReadCase& c, std::ostream* os) { *os << c.Name; }
+
 class ProfileRead : public ProgramFolderTest, public ::testing::WithParamInterface<ReadCase> {};
 
 TEST_P(ProfileRead, FindsValue) {
@@ -57,6 +59,8 @@ struct IntCase {
     std::int32_t Expected;
 };
 
+void PrintTo(const IntCase& c, std::ostream* os) { *os << '"' << c.Value << '"'; }
+
 class ProfileInt : public ProgramFolderTest, public ::testing::WithParamInterface<IntCase> {};
 
 TEST_P(ProfileInt, ReadsLeadingInteger) {
@@ -77,6 +81,8 @@ struct WriteCase {
     std::string Section, Key, Value;
     std::string After;
 };
+
+void PrintTo(const WriteCase& c, std::ostream* os) { *os << c.Name; }
 
 class ProfileWrite : public ProgramFolderTest, public ::testing::WithParamInterface<WriteCase> {};
 
