@@ -1,6 +1,7 @@
 // The compare driver: the order of its checks, the branch for each output format and exactly what
 // is said on each way out. Whatever happens, the exit removes the run's temporary files.
 #include "compare/FileDiffEngine.h"
+#include "dialogs/frmWhatAndHow.h"
 #include "frame/ErrorReporter.h"
 #include "frame/Globals.h"
 #include "frame/KWCommon.h"
@@ -71,13 +72,25 @@ bool frmFileDiffs::CheckInputs(std::string& original, std::string& revised, int 
     return true;
 }
 
+// Step 7: the comparison dialogue, and the menu checks that follow what it wrote.
+void frmFileDiffs::OfferComparisonDialogue() {
+    frmWhatAndHow dialogue(this);
+    ShowModal(dialogue);
+    DoEvents();
+    const cViewFileDiffsOptions& o = *gViewOptions;
+    for (int i = 0; i < 3; ++i) SetMenuChecked("mnuOptionsComparisonModeOption", i, i == o.ComparisonMode);
+    for (int i = 0; i < 2; ++i) SetMenuChecked("mnuOptionsOutputFormatOption", i, i == o.OutputFormat);
+    SetMenuChecked("mnuOptionsShowDialogue", -1, o.ShowDialogueBeforeComparison);
+}
+
 void frmFileDiffs::CompareFiles(bool SkipDialogue) {
-    (void)SkipDialogue; // the comparison dialogue is offered once it exists
     bool gridsFrozen = false;
     try {
         std::string original, revised;
         int types[2] = {LocalFile, LocalFile};
         if (CheckInputs(original, revised, types)) {
+            if (!SkipDialogue && gViewOptions->ShowDialogueBeforeComparison)
+                OfferComparisonDialogue();
             SetMousePointer(PointerHourglass);
             ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);
             StartAnimation();

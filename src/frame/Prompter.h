@@ -8,6 +8,13 @@ namespace orvane {
 
 enum class MsgIcon { None, Critical, Question, Exclamation, Information };
 
+struct FontChoice {
+    std::string Name;
+    int Size = 0; // points
+    bool Bold = false;
+    bool Italic = false;
+};
+
 class Prompter {
   public:
     virtual ~Prompter() = default;
@@ -18,6 +25,11 @@ class Prompter {
     // Returns false when the user cancels (the toolkit's error 32755).
     virtual bool OpenFileDialog(const std::string& title, const std::string& filter,
                                 std::string& path) = 0;
+    // Presets from `font`; false when the user cancels.
+    virtual bool FontDialog(const std::string& title, FontChoice& font) {
+        (void)title, (void)font;
+        return false;
+    }
     // "Let pending events run": a no-op where there is no event loop.
     virtual void DoEvents() {}
     // Opens the help pages at a topic (7 is the welcome page).

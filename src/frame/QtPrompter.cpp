@@ -6,6 +6,7 @@
 #include <QDesktopServices>
 #include <QUrl>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -47,6 +48,18 @@ bool QtPrompter::OpenFileDialog(const std::string& title, const std::string& fil
         QFileDialog::getOpenFileName(QApplication::activeWindow(), Q(title), Q(path), Q(filter));
     if (chosen.isEmpty()) return false;
     path = chosen.toStdString();
+    return true;
+}
+
+bool QtPrompter::FontDialog(const std::string& title, FontChoice& font) {
+    QFont preset(Q(font.Name), font.Size);
+    preset.setBold(font.Bold);
+    preset.setItalic(font.Italic);
+    bool ok = false;
+    const QFont chosen = QFontDialog::getFont(&ok, preset, QApplication::activeWindow(), Q(title),
+                                              QFontDialog::DontUseNativeDialog);
+    if (!ok) return false;
+    font = {chosen.family().toStdString(), chosen.pointSize(), chosen.bold(), chosen.italic()};
     return true;
 }
 

@@ -11,6 +11,7 @@ class QtPrompter : public Prompter {
                   std::string& value) override;
     bool OpenFileDialog(const std::string& title, const std::string& filter,
                         std::string& path) override;
+    bool FontDialog(const std::string& title, FontChoice& font) override;
     void DoEvents() override;
     void ShowHelp(int context) override;
 };

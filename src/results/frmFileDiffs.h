@@ -7,7 +7,9 @@
 #include "results/WindowLayout.h"
 #include "settings/OptionsWindow.h"
 
+#include <QDialog>
 #include <QMainWindow>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -114,6 +116,9 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void SetCommandsForResults();
     void SetCommandsForNoResults();
 
+    // Shows a dialogue modally; tests put a script in its place.
+    std::function<void(QDialog&)> ShowModal = [](QDialog& d) { d.exec(); };
+
     // What tests and other parts read.
     FlexGrid& OriginalGrid() { return originalGrid_; }
     FlexGrid& RevisedGrid() { return revisedGrid_; }
@@ -153,6 +158,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void ComparisonModeOption(int i);
     void OutputFormatOption(int i);
     void DiffDetailOption(int i);
+    void mnuOptionsFont_Click();
     FlexGridView& NamedGrid(const std::string& grid) const;
     void ConnectGridEvents();
     FlexGrid& GridOf(Side side) { return side == Side::Original ? originalGrid_ : revisedGrid_; }
@@ -171,6 +177,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void Refuse(const std::string& title, const std::string& text);
     void RunGridPath();
     void RefuseOneWindowReport();
+    void OfferComparisonDialogue();
     void DeleteTemporaryFiles();
 
     FlexGrid originalGrid_;

@@ -1,5 +1,8 @@
 // The main window's commands: which are available when, and the option commands.
 #include "compare/ViewOptions.h"
+#include "dialogs/frmHTMLEditor.h"
+#include "dialogs/frmTextExtractionOptions.h"
+#include "frame/ErrorReporter.h"
 #include "frame/Globals.h"
 #include "frame/Prompter.h"
 #include "frame/RuntimeError.h"
@@ -68,6 +71,19 @@ void frmFileDiffs::ConnectCommands() {
     c.On("mnuFileFind", [this] { mnuFileFind_Click(); });
     c.On("mnuFileFindNext", [this] { mnuFileFindAgain_Click(true); });
     c.On("mnuFileFindPrevious", [this] { mnuFileFindAgain_Click(false); });
+    c.On("mnuOptionsTextExtraction", [this] {
+        frmTextExtractionOptions dialogue(this);
+        ShowModal(dialogue);
+    });
+    c.On("mnuOptionsHTMLEditor", [this] {
+        frmHTMLEditor dialogue(this);
+        ShowModal(dialogue);
+    });
+    c.On("mnuOptionsFont", [this] { mnuOptionsFont_Click(); });
+    c.On("mnuHelpContent", [] {
+        prompter().ShowHelp(1);
+        DoEvents();
+    });
     for (const Toggle& t : kToggles) {
         QAction* item = c.Item(t.name);
         item->setCheckable(true);
@@ -125,6 +141,18 @@ void frmFileDiffs::DiffDetailOption(int i) {
     gViewOptions->ComparisonLevel = i;
     if (gViewOptions->OutputFormat != OutputOneWindow) Grid_Click(Side::Original);
     else CompareFiles(true);
+}
+
+void frmFileDiffs::mnuOptionsFont_Click() {
+    try {
+        FontChoice font{GridFontName(kGrdOriginalFile),
+                        RoundToInt32(GridFontSize(kGrdOriginalFile)),
+                        GridFontBold(kGrdOriginalFile), GridFontItalic(kGrdOriginalFile)};
+        if (!prompter().FontDialog("Select Font", font)) return; // cancelled: nothing changes
+        ApplyNewFont(font.Name, font.Size, font.Bold, font.Italic);
+    } catch (...) {
+        ReportUnexpectedError("frmFileDiffs.mnuOptionsFont_Click");
+    }
 }
 
 void frmFileDiffs::SetCommandsForNoResults() {

@@ -33,11 +33,20 @@ class RecordingPrompter : public Prompter {
         return true;
     }
     void ShowHelp(int context) override { helpContexts.push_back(context); }
+    bool FontDialog(const std::string& title, FontChoice& font) override {
+        fontTitles.push_back(title);
+        if (fonts.empty()) return false;
+        font = fonts.front();
+        fonts.pop_front();
+        return true;
+    }
 
     std::vector<RecordedBox> boxes;
     std::deque<std::string> inputs;
     std::deque<std::string> files;
     std::vector<int> helpContexts;
+    std::deque<FontChoice> fonts;
+    std::vector<std::string> fontTitles;
 };
 
 // Installs a fresh recording prompter for the lifetime of the object.

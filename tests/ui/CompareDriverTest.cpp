@@ -141,7 +141,10 @@ TEST_F(DriverTest, TheOneWindowReportIsRefusedPlainly) {
 TEST_F(DriverTest, CommandLineWithTwoFilesComparesAtLoad) {
     const std::string a = dir.Write("a.html", "1\n"), b = dir.Write("b.html", "2\n");
     frmFileDiffs second;
+    int dialogues = 0;
+    second.ShowModal = [&](QDialog& d) { ++dialogues, d.accept(); };
     second.Form_Load("\"" + a + "\" \"" + b + "\"");
+    EXPECT_EQ(dialogues, 1); // "run the Compare command as the user would": the dialogue first
     EXPECT_EQ(second.OriginalFileBox()->currentText().toStdString(), a);
     EXPECT_EQ(second.Diffs(), DiffList{"1-1-14270416"});
 }

@@ -28,6 +28,7 @@ class DriverTest : public ::testing::Test {
         LoadEngine(Engine::KWCommon, ORVANE_BIN_DIR);
         gAppPath = dir.Path();
         window = std::make_unique<frmFileDiffs>();
+        window->ShowModal = [this](QDialog& d) { dialogues.push_back(d.objectName().toStdString()); };
         window->Form_Load("");
         prompter->boxes.clear();
         prompter->helpContexts.clear();
@@ -50,6 +51,7 @@ class DriverTest : public ::testing::Test {
     TempDir dir;
     ScopedRecordingPrompter prompter;
     std::unique_ptr<frmFileDiffs> window;
+    std::vector<std::string> dialogues; // object names of the dialogues shown
 };
 
 } // namespace orvane::test
