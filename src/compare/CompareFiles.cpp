@@ -2,6 +2,8 @@
 // is said on each way out. Whatever happens, the exit removes the run's temporary files.
 #include "compare/FileDiffEngine.h"
 #include "dialogs/frmWhatAndHow.h"
+#include "intake/Formats.h"
+#include "intake/download/Download.h"
 #include "frame/ErrorReporter.h"
 #include "frame/Globals.h"
 #include "frame/KWCommon.h"
@@ -108,8 +110,10 @@ void frmFileDiffs::CompareFiles(bool SkipDialogue) {
             o.RevisedSourceType = types[1];
             o.OriginalDownloadFile.clear();
             o.RevisedDownloadFile.clear();
-            if (o.OutputFormat != OutputOneWindow) RunGridPath();
-            else RefuseOneWindowReport();
+            if (FetchWebPages() && DetectFormats()) {
+                if (o.OutputFormat != OutputOneWindow) RunGridPath();
+                else RefuseOneWindowReport();
+            }
         }
     } catch (...) {
         if (CurrentErrorInfo().Number != kAutomationException)
@@ -131,6 +135,53 @@ void frmFileDiffs::DeleteTemporaryFiles() {
     DeleteIf(o.RevisedTextExtracted, o.RevisedTextFile);
     DeleteIf(o.OriginalSourceType == WebAddress, o.OriginalDownloadFile);
     DeleteIf(o.RevisedSourceType == WebAddress, o.RevisedDownloadFile);
+}
+
+// Steps 10 and 11: each web address is fetched into a temporary page of its own.
+bool frmFileDiffs::FetchWebPages() {
+    for (Side side : {Side::Original, Side::Revised}) {
+        SideFields f = FieldsOf(*gViewOptions, side);
+        if (f.SourceType != WebAddress) continue;
+        const std::string target = MakeDownloadFileSpec();
+        if (!target.empty() && modOrvane::DownloadWebPage(f.File, target)) {
+            f.DownloadFile = target;
+            continue;
+        }
+        std::remove(target.c_str());
+        StopAnimationAndClearStatus();
+        const std::string text = std::string(SideName(side)) +
+                                 " Web page was NOT downloaded successfully\r\n\r\nMake sure "
+                                 "that you are connected to the Internet\r\nand that the web "
+                                 "page exists.";
+        if (gViewOptions->RunFromCommandLine)
+            gViewOptions->CommandLineMessage = "Web Page Download failure.  " + text;
+        else prompter().MsgBox(text, MsgIcon::Exclamation, "Web Page Download failure");
+        ResetResultsDisplay();
+        return false;
+    }
+    return true;
+}
+
+// Step 12: a local file of unknown format stops the run in every mode; a page counts as HTML.
+bool frmFileDiffs::DetectFormats() {
+    for (Side side : {Side::Original, Side::Revised}) {
+        SideFields f = FieldsOf(*gViewOptions, side);
+        std::string& format = side == Side::Original ? originalFormat_ : revisedFormat_;
+        if (f.SourceType == WebAddress) {
+            format = "HTML";
+            continue;
+        }
+        std::string description, reason;
+        if (modConvertFormats::GetFormatOfFile(f.File, format, description, reason)) continue;
+        StopAnimationAndClearStatus();
+        const std::string title = "Unknown " + std::string(SideName(side)) + " File Format";
+        if (gViewOptions->RunFromCommandLine)
+            gViewOptions->CommandLineMessage = title + ".  " + reason;
+        else prompter().MsgBox(reason, MsgIcon::Exclamation, title);
+        ResetResultsDisplay();
+        return false;
+    }
+    return true;
 }
 
 // The merged one-window report is not built yet: say so rather than show nothing.

@@ -178,6 +178,9 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void RunGridPath();
     void RefuseOneWindowReport();
     void OfferComparisonDialogue();
+    bool FetchWebPages();
+    bool DetectFormats();
+    void SelectFile(Side side);
     void DeleteTemporaryFiles();
 
     FlexGrid originalGrid_;
@@ -200,6 +203,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     std::vector<std::string> SearchTextList;
     long PreviousArrowRow = 0;
     int mousePointer_ = PointerDefault;
+    std::string originalFormat_, revisedFormat_; // of the current run
     bool unloaded_ = false;
 };
 

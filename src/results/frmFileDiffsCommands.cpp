@@ -1,6 +1,7 @@
 // The main window's commands: which are available when, and the option commands.
 #include "compare/ViewOptions.h"
 #include "dialogs/frmHTMLEditor.h"
+#include "dialogs/frmTestFileFormat.h"
 #include "dialogs/frmTextExtractionOptions.h"
 #include "frame/ErrorReporter.h"
 #include "frame/Globals.h"
@@ -59,6 +60,8 @@ void CheckOnly(Commands& c, const char* array, int count, int i) {
 void frmFileDiffs::ConnectCommands() {
     Commands& c = *commands_;
     c.On("mnuFileCompare", [this] { mnuFileCompare_Click(); });
+    c.On("mnuFileSelectOriginalFile", [this] { SelectFile(Side::Original); });
+    c.On("mnuFileSelectRevisedFile", [this] { SelectFile(Side::Revised); });
     c.On("mnuFileExit", [this] { close(); });
     c.On("mnuFileShowFirstDiff", [this] { mnuFileShowFirstDiff_Click(); });
     c.On("mnuFileShowNextDiff", [this] { mnuFileShowNextDiff_Click(); });
@@ -80,6 +83,10 @@ void frmFileDiffs::ConnectCommands() {
         ShowModal(dialogue);
     });
     c.On("mnuOptionsFont", [this] { mnuOptionsFont_Click(); });
+    c.On("mnuHelpTroubleshootingFileFormat", [this] {
+        frmTestFileFormat dialogue(this);
+        ShowModal(dialogue);
+    });
     c.On("mnuHelpContent", [] {
         prompter().ShowHelp(1);
         DoEvents();

@@ -2,6 +2,7 @@
 // stand beside a changed path.
 #include "dialogs/AutoCompletePath.h"
 #include "frame/ErrorReporter.h"
+#include "intake/frmSelectFile.h"
 #include "results/frmFileDiffs.h"
 #include "settings/RecentFiles.h"
 
@@ -73,6 +74,24 @@ void frmFileDiffs::AddFilesToIni(const std::string& Original, const std::string&
     } catch (...) {
         SuppressFileBoxEvents = false;
         ReportUnexpectedError("frmFileDiffs.AddFilesToIni");
+    }
+}
+
+void frmFileDiffs::SelectFile(Side side) {
+    try {
+        gSelectFileTitle =
+            side == Side::Original ? "Select Original HTML file" : "Select Revised HTML file";
+        gSelectedPath.clear();
+        frmSelectFile dialogue(this);
+        ShowModal(dialogue);
+        if (gSelectedPath.empty()) return;
+        FileBox(side)->setEditText(QString::fromStdString(gSelectedPath));
+        // Both commands test the Original grid.
+        if (originalGrid_.TextMatrix(0, 0).empty()) ResetResultsDisplay();
+    } catch (...) {
+        ReportUnexpectedError(side == Side::Original
+                                  ? "frmFileDiffs.mnuFileSelectOriginalFile_Click"
+                                  : "frmFileDiffs.mnuFileSelectRevisedFile_Click");
     }
 }
 

@@ -1,5 +1,7 @@
 #include "tests/ui/DriverFixture.h"
 
+#include <filesystem>
+
 namespace orvane::test {
 namespace {
 
@@ -124,8 +126,8 @@ TEST_F(DriverTest, BinaryFilesAreNotShown) {
 
 TEST_F(DriverTest, ForceTextShowsFilesWithNulBytes) {
     gViewOptions->ForceTextCompare = true;
-    Compare(dir.Write("a.bin", std::string("a\0b\nsame\n", 9)),
-            dir.Write("b.bin", std::string("a\0c\nsame\n", 9)));
+    Compare(dir.Write("a.html", std::string("a\0b\nsame\n", 9)),
+            dir.Write("b.html", std::string("a\0c\nsame\n", 9)));
     EXPECT_TRUE(prompter->boxes.empty());
     EXPECT_EQ(window->Diffs(), DiffList{"1-1-14270416"});
 }
@@ -136,6 +138,32 @@ TEST_F(DriverTest, TheOneWindowReportIsRefusedPlainly) {
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Compare Files");
     EXPECT_TRUE(Idle());
+}
+
+TEST_F(DriverTest, AnUnknownFormatStopsTheRun) {
+    Compare(dir.Write("a.dat", std::string("\x01\x02\x03\x00\xff", 5)), dir.Write("b.html", "x\n"));
+    ASSERT_EQ(prompter->boxes.size(), 1u);
+    EXPECT_EQ(prompter->boxes[0].title, "Unknown Original File Format");
+    EXPECT_NE(prompter->boxes[0].text.find("Unrecognized file format."), std::string::npos)
+        << prompter->boxes[0].text;
+    EXPECT_TRUE(Idle());
+}
+
+TEST_F(DriverTest, AnUnreachableAddressIsADownloadFailure) {
+    gViewOptions->RunFromCommandLine = true;
+    Compare("http://127.0.0.1:9/page.html", dir.Write("b.html", "x\n"));
+    EXPECT_EQ(gViewOptions->CommandLineMessage,
+              "Web Page Download failure.  Original Web page was NOT downloaded successfully"
+              "\r\n\r\nMake sure that you are connected to the Internet\r\nand that the web "
+              "page exists.");
+}
+
+TEST_F(DriverTest, AFileAddressIsFetchedComparedAndItsCopyRemoved) {
+    const std::string a = dir.Write("a.html", "1\n2\n");
+    Compare("file://" + a, dir.Write("b.html", "1\n3\n"));
+    EXPECT_EQ(window->Diffs(), DiffList{"2-1-14270416"});
+    EXPECT_FALSE(gViewOptions->OriginalDownloadFile.empty());
+    EXPECT_FALSE(std::filesystem::exists(gViewOptions->OriginalDownloadFile)); // the exit's clean-up
 }
 
 TEST_F(DriverTest, CommandLineWithTwoFilesComparesAtLoad) {

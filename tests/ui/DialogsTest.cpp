@@ -156,3 +156,28 @@ TEST_F(DialogsTest, FontCommandAppliesToBothGridsAndCancelChangesNothing) {
 
 } // namespace
 } // namespace orvane::test
+
+#include "dialogs/frmTestFileFormat.h"
+
+namespace orvane::test {
+namespace {
+
+TEST_F(DialogsTest, TestFileFormatShowsWhatAComparisonWouldFind) {
+    frmTestFileFormat d;
+    d.cmdGetFormatInfo_Click();
+    ASSERT_EQ(prompter->boxes.size(), 1u);
+    EXPECT_EQ(prompter->boxes[0].text, "Please select a file.");
+    d.Field("txtFileSpec")->setText(QString::fromStdString(dir.Path() + "missing.html"));
+    d.cmdGetFormatInfo_Click();
+    EXPECT_EQ(prompter->boxes.back().text, "The file does not exist.");
+    prompter->files.push_back(dir.Write("page.html", "<!DOCTYPE html><p>hi</p>"));
+    d.cmdSelectFile_Click();
+    EXPECT_EQ(d.Field("txtFileFormatShortForm")->text().toStdString(), "HTML");
+    d.DisplayFormatInfo(dir.Write("empty.txt", "")); // a .htm* name is HTML by name alone
+    EXPECT_EQ(d.Field("txtFileFormatShortForm")->text().toStdString(), "!EMPTY");
+    window->CommandSurface().Item("mnuHelpTroubleshootingFileFormat")->trigger();
+    EXPECT_EQ(dialogues, std::vector<std::string>{"frmTestFileFormat"});
+}
+
+} // namespace
+} // namespace orvane::test

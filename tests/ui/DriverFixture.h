@@ -25,7 +25,8 @@ class DriverTest : public ::testing::Test {
         gFileDiff = std::make_unique<FileDiffEngine>();
         gExtractionOptions = std::make_unique<clsExtractionOptions>();
         // Engines come from the build; settings and error files go to a folder of our own.
-        LoadEngine(Engine::KWCommon, ORVANE_BIN_DIR);
+        for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt})
+            LoadEngine(e, ORVANE_BIN_DIR);
         gAppPath = dir.Path();
         window = std::make_unique<frmFileDiffs>();
         window->ShowModal = [this](QDialog& d) { dialogues.push_back(d.objectName().toStdString()); };
