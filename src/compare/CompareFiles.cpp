@@ -2,6 +2,7 @@
 // is said on each way out. Whatever happens, the exit removes the run's temporary files.
 #include "compare/FileDiffEngine.h"
 #include "dialogs/frmWhatAndHow.h"
+#include "intake/ConvertFormats.h"
 #include "intake/Formats.h"
 #include "intake/download/Download.h"
 #include "frame/ErrorReporter.h"
@@ -110,7 +111,7 @@ void frmFileDiffs::CompareFiles(bool SkipDialogue) {
             o.RevisedSourceType = types[1];
             o.OriginalDownloadFile.clear();
             o.RevisedDownloadFile.clear();
-            if (FetchWebPages() && DetectFormats()) {
+            if (FetchWebPages() && DetectFormats() && ExtractTexts()) {
                 if (o.OutputFormat != OutputOneWindow) RunGridPath();
                 else RefuseOneWindowReport();
             }
@@ -178,6 +179,30 @@ bool frmFileDiffs::DetectFormats() {
         if (gViewOptions->RunFromCommandLine)
             gViewOptions->CommandLineMessage = title + ".  " + reason;
         else prompter().MsgBox(reason, MsgIcon::Exclamation, title);
+        ResetResultsDisplay();
+        return false;
+    }
+    return true;
+}
+
+// Step 13, Text Content mode only: the text of each input is compared in its place. This box
+// has no unattended form.
+bool frmFileDiffs::ExtractTexts() {
+    if (gViewOptions->ComparisonMode != ModeText) return true;
+    for (Side side : {Side::Original, Side::Revised}) {
+        SideFields f = FieldsOf(*gViewOptions, side);
+        const bool page = f.SourceType == WebAddress;
+        const std::string& format = side == Side::Original ? originalFormat_ : revisedFormat_;
+        std::string textFile, reason;
+        if (modConvertFormats::ConvertFileIfNeeded(page ? f.DownloadFile : f.File,
+                                                   page ? "HTML" : format, textFile, reason)) {
+            f.TextExtracted = true;
+            f.TextFile = textFile;
+            continue;
+        }
+        StopAnimationAndClearStatus();
+        prompter().MsgBox(reason, MsgIcon::Exclamation,
+                          std::string(SideName(side)) + " File Text Extraction Failed");
         ResetResultsDisplay();
         return false;
     }

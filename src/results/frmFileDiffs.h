@@ -82,6 +82,11 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void mnuFileFind_Click();
     void mnuFileFindAgain_Click(bool forward);
     void EnableFindAgainCommands(bool Enabled);
+    // The View menu.
+    void ViewInBrowser(Side side);
+    void ViewSourceCode(Side side);
+    void ViewTextContent(Side side);
+    bool ViewFileAsText(const std::string& FileSpec);
     // The detail pane.
     void ShowDetailForCurrentRow();
     void DisplayLineDiffs();
@@ -180,7 +185,10 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void OfferComparisonDialogue();
     bool FetchWebPages();
     bool DetectFormats();
+    bool ExtractTexts();
     void SelectFile(Side side);
+    bool ViewerSource(Side side, std::string& source, bool& isUrl);
+    std::string DownloadForViewer(Side side, const std::string& url);
     void DeleteTemporaryFiles();
 
     FlexGrid originalGrid_;

@@ -1,5 +1,6 @@
 // The main window's commands: which are available when, and the option commands.
 #include "compare/ViewOptions.h"
+#include "dialogs/frmAbout.h"
 #include "dialogs/frmHTMLEditor.h"
 #include "dialogs/frmTestFileFormat.h"
 #include "dialogs/frmTextExtractionOptions.h"
@@ -83,6 +84,17 @@ void frmFileDiffs::ConnectCommands() {
         ShowModal(dialogue);
     });
     c.On("mnuOptionsFont", [this] { mnuOptionsFont_Click(); });
+    for (Side side : {Side::Original, Side::Revised}) {
+        const QString name = side == Side::Original ? "Original" : "Revised";
+        c.On("mnuView" + name + "FileInDefaultBrowser", [this, side] { ViewInBrowser(side); });
+        c.On("mnuView" + name + "FileSourceCode", [this, side] { ViewSourceCode(side); });
+        c.On("mnuView" + name + "FileTextContent", [this, side] { ViewTextContent(side); });
+        c.On("mnuOpenEdit" + name, [this, side] { ViewSourceCode(side); });
+    }
+    c.On("mnuHelpAbout", [this] {
+        frmAbout dialogue(this);
+        ShowModal(dialogue);
+    });
     c.On("mnuHelpTroubleshootingFileFormat", [this] {
         frmTestFileFormat dialogue(this);
         ShowModal(dialogue);

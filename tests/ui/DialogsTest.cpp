@@ -181,3 +181,18 @@ TEST_F(DialogsTest, TestFileFormatShowsWhatAComparisonWouldFind) {
 
 } // namespace
 } // namespace orvane::test
+
+#include "dialogs/frmAbout.h"
+
+namespace orvane::test {
+namespace {
+
+TEST_F(DialogsTest, AboutNamesTheProgramAndFindsAnInformationTool) {
+    window->CommandSurface().Item("mnuHelpAbout")->trigger();
+    EXPECT_EQ(dialogues, std::vector<std::string>{"frmAbout"});
+    EXPECT_TRUE(frmAbout::SystemInfoTool({"no-such-tool-here", "sh"}).ends_with("/sh"));
+    EXPECT_EQ(frmAbout::SystemInfoTool({"no-such-tool-here"}), "");
+}
+
+} // namespace
+} // namespace orvane::test

@@ -1,0 +1,17 @@
+#pragma once
+// Text Content mode: an input file turned into a plain text file by the preferred engine, and by
+// the other one when the first fails.
+#include <string>
+
+namespace orvane::modConvertFormats {
+
+// True when TextFile (a new temporary "tmp*.wtd" name) holds the text; else FailureReason says
+// why. Path is a local file, Format its code ("HTML" for a downloaded page).
+bool ConvertFileIfNeeded(const std::string& Path, const std::string& Format, std::string& TextFile,
+                         std::string& FailureReason);
+
+// The internal engine, by conversion method and comparison mode.
+bool ConvertFile(const std::string& Path, int Method, const std::string& Format,
+                 std::string& TextFile, std::string& FailureReason);
+
+} // namespace orvane::modConvertFormats

@@ -1,0 +1,72 @@
+// Every html5lib tree-construction document, however broken, converts to text under each
+// layout policy, and no markup from a script, style or comment reaches the text.
+#include "intake/detagger/Convert.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace detagger {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kTreeDir = fs::path(ORVANE_SHARED_DIR) / "corpora/html5lib-tests/tree-construction";
+
+std::vector<std::string> Documents() {
+    std::vector<std::string> docs;
+    for (const auto& entry : fs::directory_iterator(kTreeDir)) {
+        if (entry.path().extension() != ".dat") continue;
+        std::ifstream in(entry.path(), std::ios::binary);
+        std::stringstream buffer;
+        buffer << in.rdbuf();
+        const std::string text = buffer.str();
+        for (std::size_t at = text.find("#data\n"); at != std::string::npos;
+             at = text.find("\n#data\n", at)) {
+            const std::size_t start = text.find('\n', at + 1) + 1;
+            const std::size_t end = text.find("\n#errors", start - 1);
+            if (end == std::string::npos) break;
+            docs.push_back(text.substr(start, end - start));
+            at = end;
+        }
+    }
+    return docs;
+}
+
+Policies Layout(bool singleLine, bool width) {
+    Policies p;
+    p.singleLineParagraphs = singleLine;
+    p.imposePageWidth = width;
+    p.pageWidth = 10; // narrow, so wrapping runs on nearly every line
+    p.displayLinkUrls = p.addUrlReferences = width;
+    return p;
+}
+
+TEST(EngineCorpus, EveryDocumentConvertsUnderEveryLayout) {
+    const std::vector<std::string> docs = Documents();
+    ASSERT_EQ(docs.size(), 1792u);
+    for (const std::string& doc : docs) {
+        for (bool singleLine : {false, true}) {
+            for (bool width : {false, true}) {
+                const std::string text = ConvertHtml(doc, Layout(singleLine, width));
+                EXPECT_TRUE(text.empty() || text.ends_with("\r\n")) << doc;
+            }
+        }
+    }
+}
+
+TEST(EngineCorpus, HiddenContentNeverLeaks) {
+    const std::string page = "<p>shown<script>alert('SCRIPTTEXT')</script>"
+                             "<style>.STYLETEXT{}</style><!-- COMMENTTEXT -->"
+                             "<svg><style>SVGSTYLE</style><text>drawn</text></svg>";
+    const std::string text = ConvertHtml(page, Policies{});
+    for (const char* hidden : {"SCRIPTTEXT", "STYLETEXT", "COMMENTTEXT", "SVGSTYLE", "<", ">"})
+        EXPECT_EQ(text.find(hidden), std::string::npos) << hidden;
+    EXPECT_NE(text.find("shown"), std::string::npos);
+    EXPECT_NE(text.find("drawn"), std::string::npos);
+}
+
+} // namespace
+} // namespace detagger
