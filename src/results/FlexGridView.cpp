@@ -1,5 +1,6 @@
 #include "results/FlexGridView.h"
 
+#include "compare/lcs/CodePoints.h"
 #include "results/RowMarkers.h"
 
 #include <QBrush>
@@ -12,12 +13,6 @@
 namespace orvane {
 namespace {
 
-// Windows-1252 where it differs from Latin-1 (0x80..0x9F); 0 marks the five unassigned bytes.
-constexpr char16_t kCp1252High[32] = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-
 QColor ToQColor(Colour c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
 
 } // namespace
@@ -25,13 +20,8 @@ QColor ToQColor(Colour c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) &
 QString DecodeCellText(const std::string& bytes, TextEncoding encoding) {
     if (encoding == TextEncoding::Utf8)
         return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    QString text;
-    text.reserve(static_cast<qsizetype>(bytes.size()));
-    for (unsigned char b : bytes) {
-        const char16_t mapped = b >= 0x80 && b < 0xA0 ? kCp1252High[b - 0x80] : 0;
-        text += QChar(mapped ? mapped : (b >= 0x80 && b < 0xA0 ? 0xFFFD : b));
-    }
-    return text;
+    const std::u32string text = lcs::DecodeText(bytes, lcs::TextEncoding::Windows1252);
+    return QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 FlexGridModel::FlexGridModel(FlexGrid& grid, QObject* parent)

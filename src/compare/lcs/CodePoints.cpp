@@ -1,5 +1,7 @@
 #include "compare/lcs/CodePoints.h"
 
+#include "frame/FileBytes.h"
+
 #include <array>
 #include <cwctype>
 #include <locale.h>
@@ -51,15 +53,8 @@ char32_t Upper(char32_t c) {
 
 } // namespace
 
-bool IsValidUtf8(std::string_view bytes) {
-    char32_t value;
-    for (std::size_t pos = 0; pos < bytes.size();) {
-        const std::size_t n = SequenceLength(bytes, pos, value);
-        if (n == 0) return false;
-        pos += n;
-    }
-    return true;
-}
+// One definition of well-formed UTF-8 for the whole program: the grids decide by it too.
+bool IsValidUtf8(std::string_view bytes) { return orvane::IsValidUtf8(bytes); }
 
 TextEncoding GuessEncoding(std::string_view bytes) {
     return IsValidUtf8(bytes) ? TextEncoding::Utf8 : TextEncoding::Windows1252;
