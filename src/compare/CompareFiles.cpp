@@ -4,6 +4,7 @@
 #include "dialogs/frmWhatAndHow.h"
 #include "intake/ConvertFormats.h"
 #include "intake/Formats.h"
+#include "intake/Locations.h"
 #include "intake/download/Download.h"
 #include "frame/ErrorReporter.h"
 #include "frame/Globals.h"
@@ -13,22 +14,12 @@
 #include "results/frmFileDiffs.h"
 
 #include <QComboBox>
-#include <cctype>
 #include <cstdio>
 
 namespace orvane {
 namespace {
 
 constexpr long kAutomationException = 0x80020009;
-
-const char* SideName(Side side) { return side == Side::Original ? "Original" : "Revised"; }
-
-bool StartsWithWww(const std::string& text) {
-    if (text.size() < 3) return false;
-    for (int i = 0; i < 3; ++i)
-        if (std::toupper(static_cast<unsigned char>(text[i])) != 'W') return false;
-    return true;
-}
 
 void DeleteIf(bool condition, const std::string& path) {
     if (condition && !path.empty()) std::remove(path.c_str());
@@ -58,8 +49,9 @@ bool frmFileDiffs::CheckInputs(std::string& original, std::string& revised, int 
     }
     const std::string* inputs[2] = {&original, &revised};
     for (int i = 0; i < 2; ++i) {
-        types[i] = IsWebAddress(*inputs[i]) ? WebAddress : LocalFile;
-        if (types[i] == LocalFile && StartsWithWww(*inputs[i])) {
+        const LocationKind kind = ClassifyLocation(*inputs[i]);
+        types[i] = kind == LocationKind::WebAddress ? WebAddress : LocalFile;
+        if (kind == LocationKind::BareHostName) {
             Refuse("Invalid URL Format", "Web Addresses must begin with HTTP://");
             return false;
         }
@@ -67,8 +59,7 @@ bool frmFileDiffs::CheckInputs(std::string& original, std::string& revised, int 
     for (Side side : {Side::Original, Side::Revised}) {
         const int i = side == Side::Original ? 0 : 1;
         if (types[i] == LocalFile && !FileExists(*inputs[i])) {
-            Refuse("File Does Not Exist",
-                   std::string(SideName(side)) + " file is not an existing file.");
+            Refuse("File Does Not Exist", MissingFileText(side));
             return false;
         }
     }
@@ -150,10 +141,7 @@ bool frmFileDiffs::FetchWebPages() {
         }
         std::remove(target.c_str());
         StopAnimationAndClearStatus();
-        const std::string text = std::string(SideName(side)) +
-                                 " Web page was NOT downloaded successfully\r\n\r\nMake sure "
-                                 "that you are connected to the Internet\r\nand that the web "
-                                 "page exists.";
+        const std::string text = DownloadFailureText(side);
         if (gViewOptions->RunFromCommandLine)
             gViewOptions->CommandLineMessage = "Web Page Download failure.  " + text;
         else prompter().MsgBox(text, MsgIcon::Exclamation, "Web Page Download failure");

@@ -7,6 +7,7 @@
 #include "frame/Prompter.h"
 #include "intake/ConvertFormats.h"
 #include "intake/Formats.h"
+#include "intake/Locations.h"
 #include "intake/download/Download.h"
 #include "output/Launch.h"
 #include "results/frmFileDiffs.h"
@@ -17,10 +18,8 @@
 namespace orvane {
 namespace {
 
-const char* SideWord(Side side) { return side == Side::Original ? "Original" : "Revised"; }
-
 std::string HandlerName(Side side, const char* command) {
-    return std::string("frmFileDiffs.mnuView") + SideWord(side) + "File" + command + "_Click";
+    return std::string("frmFileDiffs.mnuView") + SideName(side) + "File" + command + "_Click";
 }
 
 bool IsNotepad(const std::string& spec) { return StringsAreEqualCompare(spec, "Notepad.exe", 1); }
@@ -30,15 +29,15 @@ bool IsNotepad(const std::string& spec) { return StringsAreEqualCompare(spec, "N
 // The common entry: a well-formed address, or a local file that exists.
 bool frmFileDiffs::ViewerSource(Side side, std::string& source, bool& isUrl) {
     source = Trim(FileBox(side)->currentText().toStdString());
-    isUrl = IsWebAddress(source);
-    if (!isUrl && source.size() >= 3 && StringsAreEqualCompare(source.substr(0, 3), "WWW", 1)) {
+    const LocationKind kind = ClassifyLocation(source);
+    isUrl = kind == LocationKind::WebAddress;
+    if (kind == LocationKind::BareHostName) {
         prompter().MsgBox("Web Addresses must begin with HTTP://", MsgIcon::Exclamation,
                           "Invalid URL Format");
         return false;
     }
     if (!isUrl && !FileExists(source)) {
-        prompter().MsgBox(std::string(SideWord(side)) + " file is not an existing file.",
-                          MsgIcon::Exclamation, "File Does Not Exist");
+        prompter().MsgBox(MissingFileText(side), MsgIcon::Exclamation, "File Does Not Exist");
         return false;
     }
     return true;
@@ -49,10 +48,8 @@ std::string frmFileDiffs::DownloadForViewer(Side side, const std::string& url) {
     const std::string page = MakeDownloadFileSpec();
     if (!page.empty() && modOrvane::DownloadWebPage(url, page)) return page;
     std::remove(page.c_str());
-    prompter().MsgBox(std::string(SideWord(side)) +
-                          " Web page was NOT downloaded successfully\r\n\r\nMake sure that you "
-                          "are connected to the Internet\r\nand that the web page exists.",
-                      MsgIcon::Exclamation, "Web Page Download failure");
+    prompter().MsgBox(DownloadFailureText(side), MsgIcon::Exclamation,
+                      "Web Page Download failure");
     return {};
 }
 
@@ -88,7 +85,7 @@ void frmFileDiffs::ViewSourceCode(Side side) {
         if (!shown)
             prompter().MsgBox("Unable to show the source code in your editor.",
                               MsgIcon::Exclamation,
-                              std::string(SideWord(side)) + " File Source Code");
+                              std::string(SideName(side)) + " File Source Code");
     } catch (...) {
         ReportUnexpectedError(HandlerName(side, "SourceCode"));
     }
