@@ -54,14 +54,20 @@ void WritePair(long lines, const std::string& a, const std::string& b) {
         const std::string line = Line(rng, i);
         fa << line;
         const unsigned r = rng() % 300;
-        if (r == 0) fb << Line(rng, -i);           // changed
-        else if (r == 1) continue;                  // deleted
-        else if (r == 2) fb << line << Line(rng, -i); // added
-        else fb << line;
+        if (r == 0)
+            fb << Line(rng, -i); // changed
+        else if (r == 1)
+            continue; // deleted
+        else if (r == 2)
+            fb << line << Line(rng, -i); // added
+        else
+            fb << line;
     }
 }
 
-double Seconds(Clock::duration d) { return std::chrono::duration<double>(d).count(); }
+double Seconds(Clock::duration d) {
+    return std::chrono::duration<double>(d).count();
+}
 
 double GnuDiffSeconds(const std::string& a, const std::string& b) {
     const auto start = Clock::now();
@@ -94,11 +100,12 @@ int main(int argc, char* argv[]) {
     window.resize(1200, 800);
 
     std::vector<long> sizes;
-    for (int i = 1; i < argc; ++i) sizes.push_back(std::atol(argv[i]));
+    for (int i = 1; i < argc; ++i)
+        sizes.push_back(std::atol(argv[i]));
     if (sizes.empty()) sizes = {100000, 1000000};
     const std::string dir = "/tmp/orvane-window-bench-" + std::to_string(::getpid()) + "-";
-    std::printf("%10s %10s %10s %8s %12s %10s\n", "lines", "ours s", "GNU s", "ratio",
-                "stall ms", "peak MB");
+    std::printf("%10s %10s %10s %8s %12s %10s\n", "lines", "ours s", "GNU s", "ratio", "stall ms",
+                "peak MB");
     for (long lines : sizes) {
         const std::string a = dir + "a.html", b = dir + "b.html";
         WritePair(lines, a, b);

@@ -9,7 +9,8 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationName("Orvane");
     orvane::SetPrompter(std::make_shared<orvane::QtPrompter>());
     std::vector<std::string> arguments;
-    for (const QString& a : QApplication::arguments().mid(1)) arguments.push_back(a.toStdString());
+    for (const QString& a : QApplication::arguments().mid(1))
+        arguments.push_back(a.toStdString());
     const std::string commandLine = orvane::JoinArgumentsAsCommandLine(arguments);
     if (!orvane::Main(QApplication::applicationDirPath().toStdString(), commandLine)) return 0;
     const int status = QApplication::exec();

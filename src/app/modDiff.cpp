@@ -48,13 +48,16 @@ bool Main(const std::string& appFolder, const std::string& commandLine) {
         return true;
     } catch (...) {
         const ErrorInfo error = CurrentErrorInfo();
-        if (error.Number == err::CannotCreateObject) ShowMissingLibraryBox(moduleName);
+        if (error.Number == err::CannotCreateObject)
+            ShowMissingLibraryBox(moduleName);
         else if (error.Number != err::ObjectUnloaded)
             ReportUnexpectedError("modDiff.Main", {}, error);
         return false;
     }
 }
 
-void EndProgram() { FreeEngines(); }
+void EndProgram() {
+    FreeEngines();
+}
 
 } // namespace orvane

@@ -2,14 +2,14 @@
 // is said on each way out. Whatever happens, the exit removes the run's temporary files.
 #include "compare/FileDiffEngine.h"
 #include "dialogs/frmWhatAndHow.h"
-#include "intake/ConvertFormats.h"
-#include "intake/Formats.h"
-#include "intake/Locations.h"
-#include "intake/download/Download.h"
 #include "frame/ErrorReporter.h"
 #include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
+#include "intake/ConvertFormats.h"
+#include "intake/Formats.h"
+#include "intake/Locations.h"
+#include "intake/download/Download.h"
 #include "results/GridFill.h"
 #include "results/frmFileDiffs.h"
 
@@ -28,8 +28,10 @@ void DeleteIf(bool condition, const std::string& path) {
 } // namespace
 
 void frmFileDiffs::Refuse(const std::string& title, const std::string& text) {
-    if (gViewOptions->RunFromCommandLine) gViewOptions->CommandLineMessage = title + ".  " + text;
-    else prompter().MsgBox(text, MsgIcon::Exclamation, title);
+    if (gViewOptions->RunFromCommandLine)
+        gViewOptions->CommandLineMessage = title + ".  " + text;
+    else
+        prompter().MsgBox(text, MsgIcon::Exclamation, title);
     ResetResultsDisplay();
 }
 
@@ -72,8 +74,10 @@ void frmFileDiffs::OfferComparisonDialogue() {
     ShowModal(dialogue);
     DoEvents();
     const cViewFileDiffsOptions& o = *gViewOptions;
-    for (int i = 0; i < 3; ++i) SetMenuChecked("mnuOptionsComparisonModeOption", i, i == o.ComparisonMode);
-    for (int i = 0; i < 2; ++i) SetMenuChecked("mnuOptionsOutputFormatOption", i, i == o.OutputFormat);
+    for (int i = 0; i < 3; ++i)
+        SetMenuChecked("mnuOptionsComparisonModeOption", i, i == o.ComparisonMode);
+    for (int i = 0; i < 2; ++i)
+        SetMenuChecked("mnuOptionsOutputFormatOption", i, i == o.OutputFormat);
     SetMenuChecked("mnuOptionsShowDialogue", -1, o.ShowDialogueBeforeComparison);
 }
 
@@ -103,8 +107,10 @@ void frmFileDiffs::CompareFiles(bool SkipDialogue) {
             o.OriginalDownloadFile.clear();
             o.RevisedDownloadFile.clear();
             if (FetchWebPages() && DetectFormats() && ExtractTexts()) {
-                if (o.OutputFormat != OutputOneWindow) RunGridPath();
-                else RefuseOneWindowReport();
+                if (o.OutputFormat != OutputOneWindow)
+                    RunGridPath();
+                else
+                    RefuseOneWindowReport();
             }
         }
     } catch (...) {
@@ -144,7 +150,8 @@ bool frmFileDiffs::FetchWebPages() {
         const std::string text = DownloadFailureText(side);
         if (gViewOptions->RunFromCommandLine)
             gViewOptions->CommandLineMessage = "Web Page Download failure.  " + text;
-        else prompter().MsgBox(text, MsgIcon::Exclamation, "Web Page Download failure");
+        else
+            prompter().MsgBox(text, MsgIcon::Exclamation, "Web Page Download failure");
         ResetResultsDisplay();
         return false;
     }
@@ -166,7 +173,8 @@ bool frmFileDiffs::DetectFormats() {
         const std::string title = "Unknown " + std::string(SideName(side)) + " File Format";
         if (gViewOptions->RunFromCommandLine)
             gViewOptions->CommandLineMessage = title + ".  " + reason;
-        else prompter().MsgBox(reason, MsgIcon::Exclamation, title);
+        else
+            prompter().MsgBox(reason, MsgIcon::Exclamation, title);
         ResetResultsDisplay();
         return false;
     }
@@ -202,8 +210,10 @@ void frmFileDiffs::RefuseOneWindowReport() {
     StopAnimationAndClearStatus();
     const std::string text = "The one-window report is not available in this version. Choose "
                              "Options > Output Format > Show Changes Side by Side (Two Windows).";
-    if (gViewOptions->RunFromCommandLine) gViewOptions->CommandLineMessage = "Compare Files.  " + text;
-    else prompter().MsgBox(text, MsgIcon::Information, "Compare Files");
+    if (gViewOptions->RunFromCommandLine)
+        gViewOptions->CommandLineMessage = "Compare Files.  " + text;
+    else
+        prompter().MsgBox(text, MsgIcon::Information, "Compare Files");
     ResetResultsDisplay();
 }
 
@@ -246,12 +256,14 @@ void frmFileDiffs::CompareFilesAndStoreResultsInGlobalDiffObject(std::string& Me
         long status = -1;
         engine.CompareFiles(original, revised, status);
         switch (status) {
-        case 0: Message = "The files are identical"; break;
+        case 0:
+            Message = "The files are identical";
+            break;
         case 1: {
             const std::string binary = "Binary files " + original + " " + revised + " differ";
             const std::string line0 = engine.OutputLineCount() > 0 ? engine.OutputLine(0) : "";
             if (QString::fromStdString(line0).contains(QString::fromStdString(binary),
-                                                        Qt::CaseInsensitive)) {
+                                                       Qt::CaseInsensitive)) {
                 Message = "The files differ but the differences are not viewable.\r\n"
                           "One of the files may contain non-ASCII characters. \r\n";
             } else {
@@ -263,7 +275,9 @@ void frmFileDiffs::CompareFilesAndStoreResultsInGlobalDiffObject(std::string& Me
             Message = "Errors encountered comparing the files\r\n\r\n" +
                       (engine.OutputLineCount() > 0 ? engine.OutputLine(0) : std::string());
             break;
-        default: Message.clear(); break;
+        default:
+            Message.clear();
+            break;
         }
     } catch (...) {
         ReportUnexpectedError("frmFileDiffs.CompareFilesAndStoreResultsInGlobalDiffObject");

@@ -20,8 +20,7 @@ struct Range {
 long ToNumber(std::string_view s) {
     long v = 0;
     const auto [end, ec] = std::from_chars(s.data(), s.data() + s.size(), v);
-    if (ec != std::errc() || end != s.data() + s.size())
-        throw RuntimeError(err::TypeMismatch);
+    if (ec != std::errc() || end != s.data() + s.size()) throw RuntimeError(err::TypeMismatch);
     return v;
 }
 
@@ -32,7 +31,8 @@ Range ToRange(std::string_view s) {
 }
 
 void InsertBlankRows(FlexGrid& grid, long index, long count) {
-    for (long i = 0; i < count; ++i) grid.AddItem("", index);
+    for (long i = 0; i < count; ++i)
+        grid.AddItem("", index);
 }
 
 void ColourRows(FlexGrid& grid, long first, long last, Colour colour) {
@@ -104,8 +104,10 @@ class HunkWalk {
 
 void EvenUpRows(FlexGrid& original, FlexGrid& revised) {
     const long rows = std::max(original.Rows(), revised.Rows());
-    while (original.Rows() < rows) original.AddItem("");
-    while (revised.Rows() < rows) revised.AddItem("");
+    while (original.Rows() < rows)
+        original.AddItem("");
+    while (revised.Rows() < rows)
+        revised.AddItem("");
 }
 
 } // namespace

@@ -43,18 +43,27 @@ FileDiffEngine::Api FileDiffEngine::LoadApi() {
     };
 }
 
-FileDiffEngine::FileDiffEngine()
-    : api_(std::make_unique<Api>(LoadApi())), engine_(api_->create()) {
+FileDiffEngine::FileDiffEngine() : api_(std::make_unique<Api>(LoadApi())), engine_(api_->create()) {
     if (!engine_) throw RuntimeError(err::CannotCreateObject);
 }
 
-FileDiffEngine::~FileDiffEngine() { api_->destroy(engine_); }
+FileDiffEngine::~FileDiffEngine() {
+    api_->destroy(engine_);
+}
 
-void FileDiffEngine::IgnoreCaseSwitch(bool on) { api_->ignoreCase(engine_, on); }
-void FileDiffEngine::IgnoreWhiteSpaceSwitch(bool on) { api_->ignoreWhiteSpace(engine_, on); }
-void FileDiffEngine::ForceTextSwitch(bool on) { api_->forceText(engine_, on); }
+void FileDiffEngine::IgnoreCaseSwitch(bool on) {
+    api_->ignoreCase(engine_, on);
+}
+void FileDiffEngine::IgnoreWhiteSpaceSwitch(bool on) {
+    api_->ignoreWhiteSpace(engine_, on);
+}
+void FileDiffEngine::ForceTextSwitch(bool on) {
+    api_->forceText(engine_, on);
+}
 
-long FileDiffEngine::OutputLineCount() const { return api_->lineCount(engine_); }
+long FileDiffEngine::OutputLineCount() const {
+    return api_->lineCount(engine_);
+}
 
 std::string FileDiffEngine::OutputLine(long Index) const {
     std::size_t length = 0;

@@ -15,7 +15,9 @@ bool completionRunning = false;
 
 using Directory = std::unique_ptr<DIR, int (*)(DIR*)>;
 
-Directory OpenFolder(const std::string& folder) { return {::opendir(folder.c_str()), ::closedir}; }
+Directory OpenFolder(const std::string& folder) {
+    return {::opendir(folder.c_str()), ::closedir};
+}
 
 bool StartsWithNoCase(const std::string& name, const std::string& prefix) {
     return name.size() >= prefix.size() &&
@@ -31,9 +33,13 @@ bool IsFolder(const std::string& folder, const dirent& entry) {
 
 } // namespace
 
-void KeyPress(int keyCode) { keyWasPrintable = keyCode >= 32 && keyCode <= 122; }
+void KeyPress(int keyCode) {
+    keyWasPrintable = keyCode >= 32 && keyCode <= 122;
+}
 
-bool CompletionRunning() { return completionRunning; }
+bool CompletionRunning() {
+    return completionRunning;
+}
 
 bool PathExists(const std::string& Path) {
     if (Path.empty()) return false;

@@ -59,8 +59,10 @@ void frmHTMLEditor::cmdSelectHTMLEditor_Click() {
 void frmHTMLEditor::OKButton_Click() {
     try {
         const std::string text = Trim(txtHTMLEditorFileSpec->text().toStdString());
-        if (text.empty() || text == kNotepad) gHTMLEditorFileSpec = kNotepad;
-        else if (FileExists(text)) gHTMLEditorFileSpec = text;
+        if (text.empty() || text == kNotepad)
+            gHTMLEditorFileSpec = kNotepad;
+        else if (FileExists(text))
+            gHTMLEditorFileSpec = text;
         else
             prompter().MsgBox("The file does not exist. Notepad will be used.",
                               MsgIcon::Exclamation, "HTML Editor");

@@ -86,7 +86,9 @@ frmTestFileFormat::frmTestFileFormat(QWidget* parent) : QDialog(parent) {
     });
 }
 
-QLineEdit* frmTestFileFormat::Field(const char* name) const { return findChild<QLineEdit*>(name); }
+QLineEdit* frmTestFileFormat::Field(const char* name) const {
+    return findChild<QLineEdit*>(name);
+}
 
 void frmTestFileFormat::cmdGetFormatInfo_Click() {
     const std::string path = Trim(txtFileSpec->text().toStdString());
@@ -94,7 +96,8 @@ void frmTestFileFormat::cmdGetFormatInfo_Click() {
         prompter().MsgBox("Please select a file.", MsgIcon::Information, "Invalid File");
     else if (!FileExists(path))
         prompter().MsgBox("The file does not exist.", MsgIcon::Information, "Invalid File");
-    else DisplayFormatInfo(path);
+    else
+        DisplayFormatInfo(path);
 }
 
 void frmTestFileFormat::cmdSelectFile_Click() {
@@ -132,8 +135,10 @@ bool frmTestFileFormat::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::Drop) {
         const QMimeData& data = *static_cast<QDropEvent*>(event)->mimeData();
-        if (data.hasText() && !data.hasUrls()) txtFileSpec->setText(data.text());
-        else if (!data.urls().isEmpty()) txtFileSpec->setText(data.urls().first().toLocalFile());
+        if (data.hasText() && !data.hasUrls())
+            txtFileSpec->setText(data.text());
+        else if (!data.urls().isEmpty())
+            txtFileSpec->setText(data.urls().first().toLocalFile());
         return true;
     }
     return QDialog::eventFilter(watched, event);

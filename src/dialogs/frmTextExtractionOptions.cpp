@@ -99,8 +99,8 @@ void frmTextExtractionOptions::BuildFormatFrame() {
         connect(optFormatting[i], &QRadioButton::clicked, this,
                 [this, i] { optFormatting_Click(i); });
     }
-    chkSingleLineParagraph = Named(new QCheckBox("Output Paragraph on a Single Line", frame),
-                                   "chkSingleLineParagraph");
+    chkSingleLineParagraph =
+        Named(new QCheckBox("Output Paragraph on a Single Line", frame), "chkSingleLineParagraph");
     chkFixedLineWidth = Named(new QCheckBox("Fixed Line Width", frame), "chkFixedLineWidth");
     txtNumChars = NumberBox("txtNumChars", frame);
     grid->setColumnMinimumWidth(0, 20);
@@ -120,7 +120,8 @@ void frmTextExtractionOptions::BuildWordFrame() {
     grid->addWidget(Named(new QLabel("'Save As' Text Format:", frame), "Label2"), 0, 0, 1, 3);
     cboSaveAsFormats = Named(new QComboBox(frame), "cboSaveAsFormats");
     grid->addWidget(cboSaveAsFormats, 1, 0, 1, 2);
-    chkFixedLineWidthWord = Named(new QCheckBox("Fixed Line Width", frame), "chkFixedLineWidthWord");
+    chkFixedLineWidthWord =
+        Named(new QCheckBox("Fixed Line Width", frame), "chkFixedLineWidthWord");
     txtNumCharsWord = NumberBox("txtNumCharsWord", frame);
     grid->addWidget(chkFixedLineWidthWord, 2, 0);
     grid->addWidget(Named(new QLabel("Number of Chars:", frame), "Label1"), 2, 1, Qt::AlignRight);
@@ -132,7 +133,8 @@ void frmTextExtractionOptions::BuildWordFrame() {
 
 void frmTextExtractionOptions::Form_Load() {
     const clsExtractionOptions& o = *gExtractionOptions;
-    for (const SaveFormat& f : kSaveFormats) cboSaveAsFormats->addItem(f.text, f.number);
+    for (const SaveFormat& f : kSaveFormats)
+        cboSaveAsFormats->addItem(f.text, f.number);
     cboSaveAsFormats->setCurrentIndex(cboSaveAsFormats->findData(o.MSWordSaveAsFormat));
     optExtractionEngines[o.EnginePreference == 0 ? 0 : 1]->setChecked(true);
     const int formatting = o.OriginalFormat ? 0 : 1;
@@ -168,8 +170,10 @@ void frmTextExtractionOptions::chkFixedLineWidthWord_Click() {
 bool frmTextExtractionOptions::CheckNumber(QLineEdit& box, int& value) {
     const std::string text = Trim(box.text().toStdString());
     const char* problem = nullptr;
-    if (text.empty()) problem = "Please enter a number of characters.";
-    else if (!IsNumeric(text)) problem = "Please enter a numeric value.";
+    if (text.empty())
+        problem = "Please enter a number of characters.";
+    else if (!IsNumeric(text))
+        problem = "Please enter a numeric value.";
     else if ((value = ToLongRounded(text)) < 1)
         problem = "You must have at least one character per line.";
     if (!problem) return true;
@@ -182,8 +186,7 @@ void frmTextExtractionOptions::cmdOK_Click() {
     int width = 0, wordWidth = 0;
     try {
         if (chkFixedLineWidth->isChecked() && !CheckNumber(*txtNumChars, width)) return;
-        if (chkFixedLineWidthWord->isChecked() && !CheckNumber(*txtNumCharsWord, wordWidth))
-            return;
+        if (chkFixedLineWidthWord->isChecked() && !CheckNumber(*txtNumCharsWord, wordWidth)) return;
     } catch (...) { // a number beyond 32 bits
         prompter().MsgBox("You must have at least one character per line.", MsgIcon::Information,
                           "Invalid Number of Chars");

@@ -9,9 +9,13 @@ namespace {
 constexpr char kQuote = '"';
 
 // The text between the opening quote at 0 and the next quote; npos when there is none.
-std::size_t ClosingQuote(const std::string& s) { return s.find(kQuote, 1); }
+std::size_t ClosingQuote(const std::string& s) {
+    return s.find(kQuote, 1);
+}
 
-std::string Quoted(const std::string& s) { return kQuote + s + kQuote; }
+std::string Quoted(const std::string& s) {
+    return kQuote + s + kQuote;
+}
 
 } // namespace
 

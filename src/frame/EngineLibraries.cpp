@@ -17,17 +17,24 @@ std::array<void*, kEngineCount>& handles() {
     return h;
 }
 
-void*& HandleOf(Engine e) { return handles()[static_cast<std::size_t>(e)]; }
+void*& HandleOf(Engine e) {
+    return handles()[static_cast<std::size_t>(e)];
+}
 
 } // namespace
 
 std::string EngineFileName(Engine engine) {
     switch (engine) {
-    case Engine::KWCommon: return "libkwcommon.so";
-    case Engine::DetFile: return "libdetfile.so";
-    case Engine::Detagger: return "libdetagger.so";
-    case Engine::DocTxt: return "libdoctxt.so";
-    case Engine::LineDiff: return "liblinediff.so";
+    case Engine::KWCommon:
+        return "libkwcommon.so";
+    case Engine::DetFile:
+        return "libdetfile.so";
+    case Engine::Detagger:
+        return "libdetagger.so";
+    case Engine::DocTxt:
+        return "libdoctxt.so";
+    case Engine::LineDiff:
+        return "liblinediff.so";
     }
     return {};
 }
@@ -40,8 +47,8 @@ bool LoadEngine(Engine engine, const std::string& folder) {
 
 void* EngineSymbol(Engine engine, const char* name) {
     if (!LoadEngine(engine, gAppPath))
-        throw RuntimeError(err::CannotCreateObject, "ActiveX component can't create object: " +
-                                                        EngineFileName(engine));
+        throw RuntimeError(err::CannotCreateObject,
+                           "ActiveX component can't create object: " + EngineFileName(engine));
     void* fn = ::dlsym(HandleOf(engine), name);
     if (!fn)
         throw RuntimeError(kEntryPointMissing, std::string("Can't find DLL entry point ") + name +

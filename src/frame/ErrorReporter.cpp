@@ -21,7 +21,9 @@ std::string NowText() {
     return buf;
 }
 
-bool IsBlank(const std::string& s) { return s.find_first_not_of(" \t") == std::string::npos; }
+bool IsBlank(const std::string& s) {
+    return s.find_first_not_of(" \t") == std::string::npos;
+}
 
 void AppendDetailRecord(const std::string& errorText, const std::string& detail) {
     std::ofstream out(gAppPath + "ERR_DETAIL.TXT", std::ios::binary | std::ios::app);
@@ -66,8 +68,8 @@ void ReportUnexpectedError(const std::string& Location, const std::string& Detai
         std::string text = ComposeErrorText(Location, error);
         if (!IsBlank(Detail)) {
             AppendDetailRecord(text, Detail);
-            text += std::string(kLineEnd) + "See the ERR_DETAIL.TXT file before proceeding." +
-                    kLineEnd;
+            text +=
+                std::string(kLineEnd) + "See the ERR_DETAIL.TXT file before proceeding." + kLineEnd;
         }
         text += std::string(kLineEnd) +
                 "* If this problem persists, please contact our technical support staff for "

@@ -54,10 +54,14 @@ bool IsValidUtf8(std::string_view s) {
         }
         int extra;
         unsigned long cp;
-        if ((*p & 0xE0) == 0xC0) extra = 1, cp = *p & 0x1F;
-        else if ((*p & 0xF0) == 0xE0) extra = 2, cp = *p & 0x0F;
-        else if ((*p & 0xF8) == 0xF0) extra = 3, cp = *p & 0x07;
-        else return false;
+        if ((*p & 0xE0) == 0xC0)
+            extra = 1, cp = *p & 0x1F;
+        else if ((*p & 0xF0) == 0xE0)
+            extra = 2, cp = *p & 0x0F;
+        else if ((*p & 0xF8) == 0xF0)
+            extra = 3, cp = *p & 0x07;
+        else
+            return false;
         if (end - p <= extra) return false;
         for (int i = 1; i <= extra; ++i) {
             if ((p[i] & 0xC0) != 0x80) return false;

@@ -31,7 +31,9 @@ template <typename Call> std::string CallForString(Call&& call) {
     return buf;
 }
 
-bool IsSeparator(char c) { return c == '/' || c == '\\'; }
+bool IsSeparator(char c) {
+    return c == '/' || c == '\\';
+}
 
 } // namespace
 
@@ -104,8 +106,7 @@ bool StringsAreEqual(const std::string& First, const std::string& Second) {
     return First == Second;
 }
 
-bool StringsAreEqualCompare(const std::string& First, const std::string& Second,
-                            int CompareMode) {
+bool StringsAreEqualCompare(const std::string& First, const std::string& Second, int CompareMode) {
     if (First.size() != Second.size()) return false;
     if (CompareMode == 0) return First == Second;
     for (std::size_t i = 0; i < First.size(); ++i) {
@@ -137,8 +138,8 @@ std::string GetSystemTempFolder() {
 std::string GetTempFileSpec(const std::string& Prefix, std::string& Extension,
                             const std::string& Folder) {
     try {
-        const std::string folder = AddTrailingBackslash(Folder.empty() ? GetSystemTempFolder()
-                                                                       : Folder);
+        const std::string folder =
+            AddTrailingBackslash(Folder.empty() ? GetSystemTempFolder() : Folder);
         static std::mt19937 rng{std::random_device{}()};
         std::string created;
         for (int attempt = 0; attempt < 100 && created.empty(); ++attempt) {
@@ -164,9 +165,13 @@ std::string GetTempFileSpec(const std::string& Prefix, std::string& Extension,
     }
 }
 
-std::string StripNulls(const std::string& Text) { return Text.substr(0, Text.find('\0')); }
+std::string StripNulls(const std::string& Text) {
+    return Text.substr(0, Text.find('\0'));
+}
 
-std::string EncloseInQuotes(const std::string& Text) { return '"' + Text + '"'; }
+std::string EncloseInQuotes(const std::string& Text) {
+    return '"' + Text + '"';
+}
 
 std::string AddTrailingBackslash(const std::string& Path) {
     if (Path.empty() || IsSeparator(Path.back())) return Path;

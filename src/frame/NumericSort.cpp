@@ -24,8 +24,10 @@ void QuickSortStrings(std::vector<std::string>& Items, long Low, long High) {
     const double pivot = Val(at((Low + High) / 2));
     long i = Low, j = High;
     while (i <= j) {
-        while (Val(at(i)) < pivot && i != High) ++i;
-        while (pivot < Val(at(j)) && j != Low) --j;
+        while (Val(at(i)) < pivot && i != High)
+            ++i;
+        while (pivot < Val(at(j)) && j != Low)
+            --j;
         if (i <= j) {
             std::swap(at(i), at(j));
             ++i, --j;
@@ -39,11 +41,13 @@ void SortLongCollection(std::vector<long>& Items) {
     if (Items.size() < 2) return;
     std::vector<std::string> text;
     text.reserve(Items.size());
-    for (long v : Items) text.push_back(std::to_string(v));
+    for (long v : Items)
+        text.push_back(std::to_string(v));
     QuickSortStrings(text, 1, static_cast<long>(text.size()));
     std::vector<long> sorted;
     sorted.reserve(text.size());
-    for (const std::string& t : text) sorted.push_back(std::stol(t));
+    for (const std::string& t : text)
+        sorted.push_back(std::stol(t));
     Items = std::move(sorted);
 }
 

@@ -19,7 +19,9 @@ std::shared_ptr<Prompter>& installed() {
 
 } // namespace
 
-Prompter& prompter() { return *installed(); }
+Prompter& prompter() {
+    return *installed();
+}
 
 std::shared_ptr<Prompter> SetPrompter(std::shared_ptr<Prompter> p) {
     auto old = installed();

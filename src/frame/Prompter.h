@@ -41,6 +41,8 @@ Prompter& prompter();
 // Installs p and returns the previous one so that tests can restore it.
 std::shared_ptr<Prompter> SetPrompter(std::shared_ptr<Prompter> p);
 
-inline void DoEvents() { prompter().DoEvents(); }
+inline void DoEvents() {
+    prompter().DoEvents();
+}
 
 } // namespace orvane

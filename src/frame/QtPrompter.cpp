@@ -4,27 +4,34 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QUrl>
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QUrl>
 
 namespace orvane {
 namespace {
 
 QMessageBox::Icon ToQt(MsgIcon icon) {
     switch (icon) {
-    case MsgIcon::Critical: return QMessageBox::Critical;
-    case MsgIcon::Question: return QMessageBox::Question;
-    case MsgIcon::Exclamation: return QMessageBox::Warning;
-    case MsgIcon::Information: return QMessageBox::Information;
-    case MsgIcon::None: break;
+    case MsgIcon::Critical:
+        return QMessageBox::Critical;
+    case MsgIcon::Question:
+        return QMessageBox::Question;
+    case MsgIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MsgIcon::Information:
+        return QMessageBox::Information;
+    case MsgIcon::None:
+        break;
     }
     return QMessageBox::NoIcon;
 }
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
+QString Q(const std::string& s) {
+    return QString::fromStdString(s);
+}
 
 } // namespace
 
@@ -33,8 +40,7 @@ void QtPrompter::MsgBox(const std::string& text, MsgIcon icon, const std::string
     box.exec();
 }
 
-bool QtPrompter::InputBox(const std::string& prompt, const std::string& title,
-                          std::string& value) {
+bool QtPrompter::InputBox(const std::string& prompt, const std::string& title, std::string& value) {
     bool ok = false;
     const QString text = QInputDialog::getText(QApplication::activeWindow(), Q(title), Q(prompt),
                                                QLineEdit::Normal, Q(value), &ok);
@@ -63,7 +69,9 @@ bool QtPrompter::FontDialog(const std::string& title, FontChoice& font) {
     return true;
 }
 
-void QtPrompter::DoEvents() { QCoreApplication::processEvents(); }
+void QtPrompter::DoEvents() {
+    QCoreApplication::processEvents();
+}
 
 void QtPrompter::ShowHelp(int context) {
     const QString page = context == 7 ? "welcome.html" : "index.html";

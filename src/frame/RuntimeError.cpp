@@ -7,20 +7,34 @@ namespace orvane {
 
 std::string ErrorDescription(long number) {
     switch (number) {
-    case err::InvalidCall: return "Invalid procedure call or argument";
-    case err::Overflow: return "Overflow";
-    case err::OutOfMemory: return "Out of memory";
-    case err::SubscriptOutOfRange: return "Subscript out of range";
-    case err::TypeMismatch: return "Type mismatch";
-    case err::BadFileName: return "Bad file name or number";
-    case err::FileNotFound: return "File not found";
-    case err::PermissionDenied: return "Permission denied";
-    case err::PathFileAccess: return "Path/File access error";
-    case err::PathNotFound: return "Path not found";
-    case err::ObjectUnloaded: return "Object was unloaded";
-    case err::CannotCreateObject: return "ActiveX component can't create object";
-    case err::CancelSelected: return "Cancel was selected.";
-    default: return "Application-defined or object-defined error";
+    case err::InvalidCall:
+        return "Invalid procedure call or argument";
+    case err::Overflow:
+        return "Overflow";
+    case err::OutOfMemory:
+        return "Out of memory";
+    case err::SubscriptOutOfRange:
+        return "Subscript out of range";
+    case err::TypeMismatch:
+        return "Type mismatch";
+    case err::BadFileName:
+        return "Bad file name or number";
+    case err::FileNotFound:
+        return "File not found";
+    case err::PermissionDenied:
+        return "Permission denied";
+    case err::PathFileAccess:
+        return "Path/File access error";
+    case err::PathNotFound:
+        return "Path not found";
+    case err::ObjectUnloaded:
+        return "Object was unloaded";
+    case err::CannotCreateObject:
+        return "ActiveX component can't create object";
+    case err::CancelSelected:
+        return "Cancel was selected.";
+    default:
+        return "Application-defined or object-defined error";
     }
 }
 

@@ -32,8 +32,8 @@ bool CopyFile(const std::string& from, const std::string& to) {
 bool RunOfficeSuite(const std::string& path, const std::string& textFile, int& attempts) {
     clsMSWordConverter converter;
     if (!converter.Initialize(false)) return false;
-    const bool ok = converter.ConvertFileToText(path, textFile,
-                                                gExtractionOptions->MSWordSaveAsFormat, false);
+    const bool ok =
+        converter.ConvertFileToText(path, textFile, gExtractionOptions->MSWordSaveAsFormat, false);
     DoEvents();
     ++attempts;
     return ok;
@@ -61,8 +61,10 @@ bool ConvertFile(const std::string& Path, int Method, const std::string& Format,
                                                "an alternate converter.";
             return false;
         }
-        case ModeVisual: return true;
-        default: return false;
+        case ModeVisual:
+            return true;
+        default:
+            return false;
         }
     } catch (...) {
         ReportUnexpectedError("modConvertFormats.ConvertFile");

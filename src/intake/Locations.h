@@ -13,7 +13,9 @@ enum class LocationKind { WebAddress, BareHostName, LocalFile };
 // never looked up as a file.
 LocationKind ClassifyLocation(const std::string& text);
 
-inline const char* SideName(Side side) { return side == Side::Original ? "Original" : "Revised"; }
+inline const char* SideName(Side side) {
+    return side == Side::Original ? "Original" : "Revised";
+}
 
 inline std::string MissingFileText(Side side) {
     return std::string(SideName(side)) + " file is not an existing file.";

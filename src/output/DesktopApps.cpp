@@ -30,7 +30,8 @@ std::string Home() {
 
 std::vector<std::string> ConfigDirs() {
     std::vector<std::string> dirs = SplitList(std::getenv("XDG_CONFIG_HOME"), Home() + "/.config");
-    for (auto& d : SplitList(std::getenv("XDG_CONFIG_DIRS"), "/etc/xdg")) dirs.push_back(d);
+    for (auto& d : SplitList(std::getenv("XDG_CONFIG_DIRS"), "/etc/xdg"))
+        dirs.push_back(d);
     return dirs;
 }
 
@@ -60,7 +61,9 @@ std::string GroupValue(const std::string& file, const std::string& group, const 
     return {};
 }
 
-std::string FirstOfList(const std::string& list) { return list.substr(0, list.find(';')); }
+std::string FirstOfList(const std::string& list) {
+    return list.substr(0, list.find(';'));
+}
 
 std::string FindEntryFile(const std::string& desktopId) {
     for (const std::string& dir : ApplicationDirs()) {
@@ -98,10 +101,12 @@ std::vector<std::string> SplitExec(const std::string& exec) {
 
 std::string MimeTypeOfPath(const std::string& path) {
     static const std::map<std::string, std::string> byExtension{
-        {"html", "text/html"},      {"htm", "text/html"},         {"shtml", "text/html"},
-        {"xhtml", "application/xhtml+xml"}, {"txt", "text/plain"}, {"text", "text/plain"},
-        {"wtd", "text/plain"},      {"css", "text/css"},          {"js", "text/javascript"},
-        {"xml", "application/xml"}, {"svg", "image/svg+xml"},     {"tmp", "text/html"},
+        {"html", "text/html"},     {"htm", "text/html"},
+        {"shtml", "text/html"},    {"xhtml", "application/xhtml+xml"},
+        {"txt", "text/plain"},     {"text", "text/plain"},
+        {"wtd", "text/plain"},     {"css", "text/css"},
+        {"js", "text/javascript"}, {"xml", "application/xml"},
+        {"svg", "image/svg+xml"},  {"tmp", "text/html"},
     };
     std::string ext = GetFileExtension(path);
     std::transform(ext.begin(), ext.end(), ext.begin(),
@@ -112,11 +117,14 @@ std::string MimeTypeOfPath(const std::string& path) {
 
 std::string DefaultApplication(const std::string& mimeType) {
     std::vector<std::string> lists;
-    for (const std::string& d : ConfigDirs()) lists.push_back(d + "mimeapps.list");
-    for (const std::string& d : ApplicationDirs()) lists.push_back(d + "mimeapps.list");
+    for (const std::string& d : ConfigDirs())
+        lists.push_back(d + "mimeapps.list");
+    for (const std::string& d : ApplicationDirs())
+        lists.push_back(d + "mimeapps.list");
     for (const std::string& list : lists) {
-        for (const std::string& id : {FirstOfList(GroupValue(list, "Default Applications", mimeType)),
-                                     FirstOfList(GroupValue(list, "Added Associations", mimeType))})
+        for (const std::string& id :
+             {FirstOfList(GroupValue(list, "Default Applications", mimeType)),
+              FirstOfList(GroupValue(list, "Added Associations", mimeType))})
             if (!id.empty() && !FindEntryFile(id).empty()) return id;
     }
     for (const std::string& dir : ApplicationDirs()) {

@@ -14,7 +14,8 @@ namespace orvane {
 bool StartProgram(const std::vector<std::string>& command) {
     if (command.empty()) return false;
     QStringList args;
-    for (std::size_t i = 1; i < command.size(); ++i) args << QString::fromStdString(command[i]);
+    for (std::size_t i = 1; i < command.size(); ++i)
+        args << QString::fromStdString(command[i]);
     return QProcess::startDetached(QString::fromStdString(command[0]), args);
 }
 

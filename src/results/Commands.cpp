@@ -25,8 +25,7 @@ void Commands::BuildMenus(QMenuBar& bar) {
     QMenu* parents[4] = {nullptr, nullptr, nullptr, nullptr};
     for (std::size_t i = 0; i < std::size(kMenuTable); ++i) {
         const MenuEntry& e = kMenuTable[i];
-        const bool hasChildren =
-            i + 1 < std::size(kMenuTable) && kMenuTable[i + 1].level > e.level;
+        const bool hasChildren = i + 1 < std::size(kMenuTable) && kMenuTable[i + 1].level > e.level;
         if (e.level == 1) {
             parents[1] = bar.addMenu(e.caption);
             parents[1]->setObjectName(e.name);
@@ -72,8 +71,10 @@ void Commands::BuildToolbar(QMainWindow& window, QWidget& parent) {
         const QString command = p.command;
         connect(button, &QAction::triggered, this, [this, command, &window] {
             if (busy_()) return; // a toolbar click during a run is dropped
-            if (command.isEmpty()) window.close();
-            else if (QAction* item = Item(command)) item->trigger();
+            if (command.isEmpty())
+                window.close();
+            else if (QAction* item = Item(command))
+                item->trigger();
         });
         buttons_.push_back(button);
         if (!command.isEmpty()) buttonOf_[command] = button;
@@ -86,8 +87,7 @@ QAction* Commands::Item(const QString& name, int index) const {
 }
 
 QAction* Commands::Button(int place) const {
-    return place >= 1 && place <= static_cast<int>(buttons_.size()) ? buttons_[place - 1]
-                                                                      : nullptr;
+    return place >= 1 && place <= static_cast<int>(buttons_.size()) ? buttons_[place - 1] : nullptr;
 }
 
 void Commands::On(const QString& name, std::function<void()> fn, int index) {

@@ -52,8 +52,11 @@ void PaintDetail(QTextEdit& box, const QString& text, const std::vector<WordRun>
     const std::vector<int> at = Utf16Offsets(text);
     const long last = static_cast<long>(at.size()) - 1;
     for (const WordRun& r : runs) {
-        const long from = std::clamp(r.Start, 0L, last), to = std::clamp(r.Start + r.Length, 0L, last);
-        if (to > from) Colour(box, at[static_cast<std::size_t>(from)], at[static_cast<std::size_t>(to)], Qt::red);
+        const long from = std::clamp(r.Start, 0L, last),
+                   to = std::clamp(r.Start + r.Length, 0L, last);
+        if (to > from)
+            Colour(box, at[static_cast<std::size_t>(from)], at[static_cast<std::size_t>(to)],
+                   Qt::red);
     }
     box.setUpdatesEnabled(true);
 }

@@ -11,7 +11,8 @@ std::vector<WordRun> CharacterRuns(const std::vector<bool>& marks) {
             continue;
         }
         long end = i;
-        while (end < n && !marks[static_cast<std::size_t>(end)]) ++end;
+        while (end < n && !marks[static_cast<std::size_t>(end)])
+            ++end;
         runs.push_back({i, end - i});
         i = end;
     }

@@ -18,8 +18,8 @@ std::vector<BarBand> DiffBarBands(const DiffList& list, long rowSpan, int barHei
         DiffItem item;
         if (!ParseDiffItem(entry, item)) continue;
         const int height = RoundToInt32(rowHeight * static_cast<float>(item.RowCount));
-        const int top = RoundToInt32(barHeight * (static_cast<double>(item.FirstRow - 1) /
-                                                  static_cast<double>(rowSpan)));
+        const int top = RoundToInt32(
+            barHeight * (static_cast<double>(item.FirstRow - 1) / static_cast<double>(rowSpan)));
         if (height > 0) bands.push_back({top, top + height, item.ColourValue});
     }
     return bands;

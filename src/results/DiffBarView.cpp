@@ -31,7 +31,9 @@ DiffBarView::DiffBarView(QWidget* parent) : QWidget(parent), bar_(new QWidget(th
     bar_->installEventFilter(this);
 }
 
-int DiffBarView::BarHeight() const { return bar_->height(); }
+int DiffBarView::BarHeight() const {
+    return bar_->height();
+}
 
 void DiffBarView::Clear() {
     bands_.clear();
@@ -55,7 +57,8 @@ void DiffBarView::ShowMark(int y) {
 void DiffBarView::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.fillRect(rect(), palette().color(QPalette::Button));
-    if (markY_ >= 0) p.fillRect(0, bar_->y() + markY_ - kMarkWidth / 2, width(), kMarkWidth, Qt::red);
+    if (markY_ >= 0)
+        p.fillRect(0, bar_->y() + markY_ - kMarkWidth / 2, width(), kMarkWidth, Qt::red);
 }
 
 bool DiffBarView::eventFilter(QObject* watched, QEvent* event) {

@@ -14,7 +14,9 @@ constexpr long kCannotRemoveFixed = 30015;
 
 } // namespace
 
-FlexGrid::FlexGrid() { SetRows(2); }
+FlexGrid::FlexGrid() {
+    SetRows(2);
+}
 
 std::size_t FlexGrid::Index(long row) const {
     if (row < 0 || row >= Rows()) throw RuntimeError(kInvalidRow, "Invalid Row value");
@@ -31,8 +33,10 @@ void FlexGrid::Announce(GridChange what, long first, long last) {
 
 void FlexGrid::SetRows(long n) {
     if (n < FixedRows()) throw RuntimeError(kInvalidIndex, "Invalid Row value");
-    while (Rows() < n) rows_.insert(rows_.size(), Cell{});
-    while (Rows() > n) rows_.erase(rows_.size() - 1);
+    while (Rows() < n)
+        rows_.insert(rows_.size(), Cell{});
+    while (Rows() > n)
+        rows_.erase(rows_.size() - 1);
     row_ = std::min(row_, std::max<long>(Rows() - 1, 0));
     rowSel_ = std::min(rowSel_, Rows() - 1);
     topRow_ = std::clamp<long>(topRow_, FixedRows(), std::max<long>(Rows() - 1, FixedRows()));
@@ -70,17 +74,22 @@ void FlexGrid::SetTextMatrix(long row, int col, std::string text) {
 
 template <typename Fn> void FlexGrid::ForSelection(Fn&& fn) {
     const long first = std::min(row_, rowSel_), last = std::max(row_, rowSel_);
-    for (long r = first; r <= last; ++r) fn(rows_[Index(r)]);
+    for (long r = first; r <= last; ++r)
+        fn(rows_[Index(r)]);
     Announce(GridChange::Cells, first, last);
 }
 
-Colour FlexGrid::CellBackColor() const { return rows_[Index(row_)].back; }
+Colour FlexGrid::CellBackColor() const {
+    return rows_[Index(row_)].back;
+}
 
 void FlexGrid::SetCellBackColor(Colour c) {
     ForSelection([c](Cell& cell) { cell.back = c; });
 }
 
-CellPictureId FlexGrid::CellPicture() const { return rows_[Index(row_)].picture; }
+CellPictureId FlexGrid::CellPicture() const {
+    return rows_[Index(row_)].picture;
+}
 
 // A picture belongs to the current cell only, whatever the selection.
 void FlexGrid::SetCellPicture(CellPictureId p) {
@@ -88,7 +97,9 @@ void FlexGrid::SetCellPicture(CellPictureId p) {
     Announce(GridChange::Cells, row_, row_);
 }
 
-int FlexGrid::CellAlignment() const { return rows_[Index(row_)].alignment; }
+int FlexGrid::CellAlignment() const {
+    return rows_[Index(row_)].alignment;
+}
 
 void FlexGrid::SetCellAlignment(int a) {
     ForSelection([a](Cell& cell) { cell.alignment = static_cast<std::uint8_t>(a); });
@@ -114,7 +125,8 @@ void FlexGrid::RemoveItem(long index) {
 }
 
 void FlexGrid::Clear() {
-    for (std::size_t i = 0; i < rows_.size(); ++i) rows_[i] = Cell{};
+    for (std::size_t i = 0; i < rows_.size(); ++i)
+        rows_[i] = Cell{};
     Announce(GridChange::Reset, 0, Rows() - 1);
 }
 

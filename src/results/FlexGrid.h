@@ -14,7 +14,9 @@ namespace orvane {
 
 using Colour = std::uint32_t; // red + 256 * green + 65536 * blue; 0 means "no colour set"
 
-constexpr Colour RGB(unsigned r, unsigned g, unsigned b) { return r + 256 * g + 65536 * b; }
+constexpr Colour RGB(unsigned r, unsigned g, unsigned b) {
+    return r + 256 * g + 65536 * b;
+}
 
 // The pictures a cell can carry (the row markers).
 enum class CellPictureId : std::uint8_t {

@@ -13,7 +13,9 @@
 namespace orvane {
 namespace {
 
-QColor ToQColor(Colour c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF); }
+QColor ToQColor(Colour c) {
+    return QColor(c & 0xFF, (c >> 8) & 0xFF, (c >> 16) & 0xFF);
+}
 
 } // namespace
 
@@ -31,7 +33,9 @@ int FlexGridModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(grid_.Rows() - 1);
 }
 
-int FlexGridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 1; }
+int FlexGridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : 1;
+}
 
 QString FlexGridModel::DisplayText(long row) const {
     return DecodeCellText(grid_.RowText(row), grid_.Encoding());
@@ -41,20 +45,24 @@ QVariant FlexGridModel::data(const QModelIndex& index, int role) const {
     const long row = GridRow(index);
     if (row >= grid_.Rows()) return {};
     switch (role) {
-    case Qt::DisplayRole: return DisplayText(row);
+    case Qt::DisplayRole:
+        return DisplayText(row);
     case Qt::DecorationRole:
         if (grid_.RowPicture(row) != CellPictureId::None) {
-            static const QPixmap markers[] = {
-                {}, RowMarker(CellPictureId::Arrow), RowMarker(CellPictureId::OrphanArrow),
-                RowMarker(CellPictureId::DifferArrow), RowMarker(CellPictureId::BookmarkArrow),
-                RowMarker(CellPictureId::Bookmark)};
+            static const QPixmap markers[] = {{},
+                                              RowMarker(CellPictureId::Arrow),
+                                              RowMarker(CellPictureId::OrphanArrow),
+                                              RowMarker(CellPictureId::DifferArrow),
+                                              RowMarker(CellPictureId::BookmarkArrow),
+                                              RowMarker(CellPictureId::Bookmark)};
             return markers[static_cast<int>(grid_.RowPicture(row))];
         }
         return {};
     case Qt::BackgroundRole:
         if (Colour c = grid_.RowBackColor(row)) return QBrush(ToQColor(c));
         return {};
-    default: return {};
+    default:
+        return {};
     }
 }
 
@@ -143,7 +151,9 @@ void FlexGridView::mousePressEvent(QMouseEvent* e) {
     if (row >= 1 && row < grid_.Rows() && e->button() == Qt::LeftButton) grid_.SetRow(row);
     setFocus(Qt::MouseFocusReason);
     pressed_ = e->button() == Qt::LeftButton;
-    emit MouseDown(e->button() == Qt::RightButton ? 2 : e->button() == Qt::LeftButton ? 1 : 4,
+    emit MouseDown(e->button() == Qt::RightButton  ? 2
+                   : e->button() == Qt::LeftButton ? 1
+                                                   : 4,
                    e->globalPosition().toPoint());
 }
 

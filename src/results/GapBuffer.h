@@ -35,16 +35,20 @@ template <typename T> class GapBuffer {
     std::size_t gapLen() const { return gapEnd_ - gapBegin_; }
 
     void moveGapTo(std::size_t at) {
-        while (gapBegin_ > at) buf_[--gapEnd_] = std::move(buf_[--gapBegin_]);
-        while (gapBegin_ < at) buf_[gapBegin_++] = std::move(buf_[gapEnd_++]);
+        while (gapBegin_ > at)
+            buf_[--gapEnd_] = std::move(buf_[--gapBegin_]);
+        while (gapBegin_ < at)
+            buf_[gapBegin_++] = std::move(buf_[gapEnd_++]);
     }
 
     void grow() {
         const std::size_t oldSize = buf_.size();
         const std::size_t extra = oldSize < 16 ? 16 : oldSize;
         std::vector<T> bigger(oldSize + extra);
-        for (std::size_t i = 0; i < gapBegin_; ++i) bigger[i] = std::move(buf_[i]);
-        for (std::size_t i = gapEnd_; i < oldSize; ++i) bigger[i + extra] = std::move(buf_[i]);
+        for (std::size_t i = 0; i < gapBegin_; ++i)
+            bigger[i] = std::move(buf_[i]);
+        for (std::size_t i = gapEnd_; i < oldSize; ++i)
+            bigger[i + extra] = std::move(buf_[i]);
         buf_ = std::move(bigger);
         gapEnd_ += extra;
     }

@@ -60,7 +60,8 @@ void RemoveRowsInGrids(FlexGrid& original, FlexGrid& revised) {
         for (FlexGrid* grid : {&original, &revised}) {
             const long rows = grid->Rows();
             if (rows > 1)
-                for (long n = 2; n <= rows - 1; ++n) grid->RemoveItem(2);
+                for (long n = 2; n <= rows - 1; ++n)
+                    grid->RemoveItem(2);
         }
     } catch (...) {
         ReportUnexpectedError("frmFileDiffs.RemoveRowsInGrids");

@@ -18,10 +18,12 @@ std::string InEncodingOf(const FlexGrid& grid, const std::string& utf8) {
     std::string out;
     for (std::size_t i = 0; i < utf8.size(); ++i) {
         const unsigned char c = static_cast<unsigned char>(utf8[i]);
-        if (c < 0x80) out += static_cast<char>(c);
+        if (c < 0x80)
+            out += static_cast<char>(c);
         else if ((c & 0xE0) == 0xC0 && i + 1 < utf8.size() && c <= 0xC3)
             out += static_cast<char>(((c & 0x03) << 6) | (utf8[++i] & 0x3F)); // U+0080..U+00FF
-        else return {}; // a character this grid cannot hold: no match there
+        else
+            return {}; // a character this grid cannot hold: no match there
     }
     return out;
 }

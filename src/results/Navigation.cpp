@@ -5,7 +5,9 @@
 namespace orvane {
 namespace {
 
-long FirstRowOf(const std::string& entry) { return std::stol(entry.substr(0, entry.find('-'))); }
+long FirstRowOf(const std::string& entry) {
+    return std::stol(entry.substr(0, entry.find('-')));
+}
 
 } // namespace
 

@@ -26,12 +26,18 @@ QPixmap Make(QRgb background, bool arrow) {
 
 QPixmap RowMarker(CellPictureId picture) {
     switch (picture) {
-    case CellPictureId::Arrow: return Make(qRgb(255, 255, 255), true);
-    case CellPictureId::OrphanArrow: return Make(qRgb(247, 209, 161), true);
-    case CellPictureId::DifferArrow: return Make(qRgb(208, 191, 217), true);
-    case CellPictureId::BookmarkArrow: return Make(qRgb(32, 160, 192), true);
-    case CellPictureId::Bookmark: return Make(qRgb(32, 160, 192), false);
-    case CellPictureId::None: break;
+    case CellPictureId::Arrow:
+        return Make(qRgb(255, 255, 255), true);
+    case CellPictureId::OrphanArrow:
+        return Make(qRgb(247, 209, 161), true);
+    case CellPictureId::DifferArrow:
+        return Make(qRgb(208, 191, 217), true);
+    case CellPictureId::BookmarkArrow:
+        return Make(qRgb(32, 160, 192), true);
+    case CellPictureId::Bookmark:
+        return Make(qRgb(32, 160, 192), false);
+    case CellPictureId::None:
+        break;
     }
     return {};
 }

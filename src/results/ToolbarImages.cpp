@@ -43,8 +43,10 @@ void Letter(QPainter& p, const QString& text, QRectF r, const QColor& c) {
 // A solid triangle pointing up or down, with an optional bar on its far side.
 void Triangle(QPainter& p, QRectF r, bool down, bool bar) {
     QPolygonF t;
-    if (down) t << r.topLeft() << r.topRight() << QPointF(r.center().x(), r.bottom() - (bar ? 3 : 0));
-    else t << r.bottomLeft() << r.bottomRight() << QPointF(r.center().x(), r.top() + (bar ? 3 : 0));
+    if (down)
+        t << r.topLeft() << r.topRight() << QPointF(r.center().x(), r.bottom() - (bar ? 3 : 0));
+    else
+        t << r.bottomLeft() << r.bottomRight() << QPointF(r.center().x(), r.top() + (bar ? 3 : 0));
     p.setPen(Qt::NoPen);
     p.setBrush(kArrow);
     p.drawPolygon(t);
@@ -86,11 +88,21 @@ void Draw(QPainter& p, int image) {
         Page(p, QRectF(1.5, 1.5, 10, 14), kOrphan);
         Page(p, QRectF(8.5, 4.5, 10, 14), kDiffer);
         break;
-    case 4: Triangle(p, QRectF(4, 3, 12, 13), false, true); break;
-    case 5: Triangle(p, QRectF(4, 5, 12, 10), true, false); break;
-    case 6: Triangle(p, QRectF(4, 5, 12, 10), false, false); break;
-    case 7: Triangle(p, QRectF(4, 4, 12, 13), true, true); break;
-    case 8: Magnifier(p, QPointF(8, 8)); break;
+    case 4:
+        Triangle(p, QRectF(4, 3, 12, 13), false, true);
+        break;
+    case 5:
+        Triangle(p, QRectF(4, 5, 12, 10), true, false);
+        break;
+    case 6:
+        Triangle(p, QRectF(4, 5, 12, 10), false, false);
+        break;
+    case 7:
+        Triangle(p, QRectF(4, 4, 12, 13), true, true);
+        break;
+    case 8:
+        Magnifier(p, QPointF(8, 8));
+        break;
     case 9:
         Magnifier(p, QPointF(7, 7));
         SmallArrow(p, QPointF(15, 15), true);
@@ -99,7 +111,9 @@ void Draw(QPainter& p, int image) {
         Magnifier(p, QPointF(7, 7));
         SmallArrow(p, QPointF(15, 15), false);
         break;
-    case 11: Ribbon(p, QRectF(6, 2, 8, 16)); break;
+    case 11:
+        Ribbon(p, QRectF(6, 2, 8, 16));
+        break;
     case 12:
         Ribbon(p, QRectF(3, 2, 8, 15));
         SmallArrow(p, QPointF(15, 15), true);
@@ -132,7 +146,8 @@ void Draw(QPainter& p, int image) {
         p.drawLine(QPointF(15, 7), QPointF(18, 10));
         p.drawLine(QPointF(15, 13), QPointF(18, 10));
         break;
-    default: break;
+    default:
+        break;
     }
 }
 

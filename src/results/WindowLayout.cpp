@@ -50,11 +50,12 @@ void OneWindowLayout(WindowRegions& r, float outerWidth) {
 
 void FormResize(WindowRegions& r, float outerWidth, float scaleHeight, float scrollBarWidth,
                 bool twoWindow) {
-    const std::int32_t gridHeight =
-        RoundToInt32(static_cast<double>(scaleHeight) - 2.0 * r.rtfLineDiff0.Height -
-                     LayoutMargin * 4.2);
-    if (twoWindow) TwoWindowLayout(r, outerWidth, gridHeight);
-    else OneWindowLayout(r, outerWidth);
+    const std::int32_t gridHeight = RoundToInt32(static_cast<double>(scaleHeight) -
+                                                 2.0 * r.rtfLineDiff0.Height - LayoutMargin * 4.2);
+    if (twoWindow)
+        TwoWindowLayout(r, outerWidth, gridHeight);
+    else
+        OneWindowLayout(r, outerWidth);
     r.ctlDiffReport.Left = 2;
     r.ctlDiffReport.Top = r.grdOriginalFile.Top;
     const std::int32_t h = RoundToInt32(static_cast<double>(scaleHeight) - LayoutMargin * 4.2);

@@ -28,7 +28,9 @@
 namespace orvane {
 namespace {
 
-QString Q(const std::string& s) { return QString::fromStdString(s); }
+QString Q(const std::string& s) {
+    return QString::fromStdString(s);
+}
 
 QComboBox* MakeFileBox(const QString& name, QWidget* parent) {
     auto* box = new QComboBox(parent);
@@ -52,7 +54,9 @@ QTextEdit* MakeDetailBox(const QString& name, QWidget* parent) {
     return box;
 }
 
-std::string IniFilePath() { return gAppPath + ProgramIniFileName(); }
+std::string IniFilePath() {
+    return gAppPath + ProgramIniFileName();
+}
 
 } // namespace
 
@@ -62,8 +66,7 @@ frmFileDiffs::frmFileDiffs(QWidget* parent) : QMainWindow(parent) {
     client_ = new QWidget(this);
     client_->setObjectName("ClientArea");
     setCentralWidget(client_);
-    commands_ =
-        new Commands(*this, *client_, [this] { return mousePointer_ == PointerHourglass; });
+    commands_ = new Commands(*this, *client_, [this] { return mousePointer_ == PointerHourglass; });
     BuildWidgets();
     ConnectCommands();
     ConnectGridEvents();
@@ -71,7 +74,9 @@ frmFileDiffs::frmFileDiffs(QWidget* parent) : QMainWindow(parent) {
 }
 
 // The views go first: the grids they show are members, gone before the base class's children.
-frmFileDiffs::~frmFileDiffs() { delete takeCentralWidget(); }
+frmFileDiffs::~frmFileDiffs() {
+    delete takeCentralWidget();
+}
 
 void frmFileDiffs::BuildWidgets() {
     cboOriginalFile = MakeFileBox("cboOriginalFile", client_);
@@ -107,8 +112,7 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
             grid->SetTextMatrix(0, 0, kIdlePrompt);
         }
         modIniFile::ReadProgramOptionsFromIniFile(*this);
-        ApplyNewFont(GridFontName(kGrdOriginalFile),
-                     RoundToInt32(GridFontSize(kGrdOriginalFile)),
+        ApplyNewFont(GridFontName(kGrdOriginalFile), RoundToInt32(GridFontSize(kGrdOriginalFile)),
                      GridFontBold(kGrdOriginalFile), GridFontItalic(kGrdOriginalFile));
         ShowLineDiffPrompt();
         SetCommandsForNoResults();
@@ -159,12 +163,16 @@ void frmFileDiffs::Form_Unload() {
     SearchTextList.clear();
 }
 
-void frmFileDiffs::mnuFileCompare_Click() { CompareFiles(false); }
+void frmFileDiffs::mnuFileCompare_Click() {
+    CompareFiles(false);
+}
 
 void frmFileDiffs::SetMousePointer(int value) {
     if (value == mousePointer_) return;
-    if (value == PointerHourglass) QApplication::setOverrideCursor(Qt::WaitCursor);
-    else if (mousePointer_ == PointerHourglass) QApplication::restoreOverrideCursor();
+    if (value == PointerHourglass)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else if (mousePointer_ == PointerHourglass)
+        QApplication::restoreOverrideCursor();
     mousePointer_ = value;
 }
 
@@ -174,7 +182,8 @@ bool frmFileDiffs::ResultsShown() const {
 }
 
 void frmFileDiffs::ResetResultsDisplay() {
-    for (FlexGrid* grid : {&originalGrid_, &revisedGrid_}) grid->SetRedraw(false);
+    for (FlexGrid* grid : {&originalGrid_, &revisedGrid_})
+        grid->SetRedraw(false);
     for (FlexGrid* grid : {&originalGrid_, &revisedGrid_}) {
         grid->Clear();
         grid->SetTextMatrix(0, 0, kIdlePrompt);
@@ -184,7 +193,8 @@ void frmFileDiffs::ResetResultsDisplay() {
     originalGrid_.SetRow(1);
     revisedGrid_.SetRow(1);
     originalGrid_.SetTopRow(1);
-    for (FlexGrid* grid : {&originalGrid_, &revisedGrid_}) grid->SetRedraw(true);
+    for (FlexGrid* grid : {&originalGrid_, &revisedGrid_})
+        grid->SetRedraw(true);
     ShowLineDiffPrompt();
 }
 
@@ -205,9 +215,13 @@ void frmFileDiffs::ShowGridsOrVisualReport(bool ShowGrids) {
     Form_Resize();
 }
 
-void frmFileDiffs::StartAnimation() { Animation1->setVisible(true); }
+void frmFileDiffs::StartAnimation() {
+    Animation1->setVisible(true);
+}
 
-void frmFileDiffs::StopAnimationAndClearStatus() { Animation1->setVisible(false); }
+void frmFileDiffs::StopAnimationAndClearStatus() {
+    Animation1->setVisible(false);
+}
 
 void frmFileDiffs::ResetDiffState() {
     DiffList_.clear();
@@ -224,12 +238,11 @@ void frmFileDiffs::UpdateRowArrow() {
     }
     originalGrid_.SetRow(newRow);
     const Colour c = originalGrid_.CellBackColor();
-    originalGrid_.SetCellPicture(RowIsBookmarked(newRow)  ? CellPictureId::BookmarkArrow
+    originalGrid_.SetCellPicture(RowIsBookmarked(newRow) ? CellPictureId::BookmarkArrow
                                  : c == ColourOrphanRows ? CellPictureId::OrphanArrow
                                  : c == ColourDifferRows ? CellPictureId::DifferArrow
                                                          : CellPictureId::Arrow);
     PreviousArrowRow = newRow;
 }
-
 
 } // namespace orvane

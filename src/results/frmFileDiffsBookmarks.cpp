@@ -69,8 +69,12 @@ long frmFileDiffs::ScanBookmarks(bool forward) {
     return result;
 }
 
-long frmFileDiffs::GetNextBookmark() { return ScanBookmarks(true); }
-long frmFileDiffs::GetPreviousBookmark() { return ScanBookmarks(false); }
+long frmFileDiffs::GetNextBookmark() {
+    return ScanBookmarks(true);
+}
+long frmFileDiffs::GetPreviousBookmark() {
+    return ScanBookmarks(false);
+}
 
 void frmFileDiffs::StepToBookmark(bool forward) {
     if (mousePointer_ == PointerHourglass) return;
@@ -78,7 +82,8 @@ void frmFileDiffs::StepToBookmark(bool forward) {
     if (row == -1)
         prompter().MsgBox("No more bookmarks", MsgIcon::Information,
                           forward ? "Next Bookmark" : "Previous Bookmark");
-    else FollowRow(row);
+    else
+        FollowRow(row);
 }
 
 void frmFileDiffs::UpdateBookmarkCommands() {
@@ -123,8 +128,10 @@ void frmFileDiffs::mnuFileFind_Click() {
 void frmFileDiffs::mnuFileFindAgain_Click(bool forward) {
     if (SearchTextList.empty() || SearchTextList.back().empty()) return;
     long row = 0;
-    if (Find(SearchTextList.back(), forward ? "Next" : "Previous", row)) FollowRow(row);
-    else prompter().MsgBox("Search text not found", MsgIcon::Information, "Find");
+    if (Find(SearchTextList.back(), forward ? "Next" : "Previous", row))
+        FollowRow(row);
+    else
+        prompter().MsgBox("Search text not found", MsgIcon::Information, "Find");
 }
 
 void frmFileDiffs::EnableFindAgainCommands(bool Enabled) {

@@ -24,14 +24,22 @@ struct Availability {
     bool results;
 };
 constexpr Availability kAvailability[] = {
-    {"mnuFileSelectOriginalFile", true, true}, {"mnuFileSelectRevisedFile", true, true},
-    {"mnuFileCompare", true, true},            {"mnuFileShowFirstDiff", false, true},
-    {"mnuFileShowNextDiff", false, true},      {"mnuFileShowPreviousDiff", false, true},
-    {"mnuFileShowLastDiff", false, true},      {"mnuFileFind", false, true},
-    {"mnuFileFindNext", false, false},         {"mnuFileFindPrevious", false, false},
-    {"mnuFileToggleBookmark", false, true},    {"mnuFileNextBookmark", false, false},
-    {"mnuFilePreviousBookmark", false, false}, {"mnuFileClearAllBookmarks", false, false},
-    {"mnuFilePrint", false, true},             {"mnuFileExit", true, true},
+    {"mnuFileSelectOriginalFile", true, true},
+    {"mnuFileSelectRevisedFile", true, true},
+    {"mnuFileCompare", true, true},
+    {"mnuFileShowFirstDiff", false, true},
+    {"mnuFileShowNextDiff", false, true},
+    {"mnuFileShowPreviousDiff", false, true},
+    {"mnuFileShowLastDiff", false, true},
+    {"mnuFileFind", false, true},
+    {"mnuFileFindNext", false, false},
+    {"mnuFileFindPrevious", false, false},
+    {"mnuFileToggleBookmark", false, true},
+    {"mnuFileNextBookmark", false, false},
+    {"mnuFilePreviousBookmark", false, false},
+    {"mnuFileClearAllBookmarks", false, false},
+    {"mnuFilePrint", false, true},
+    {"mnuFileExit", true, true},
 };
 
 // The option items whose check is the option itself, and the field that follows it.
@@ -113,7 +121,8 @@ void frmFileDiffs::ConnectCommands() {
                                   MsgIcon::Information, "Show Line Numbers");
         });
     }
-    for (const char* name : kCheckable) c.Item(name)->setCheckable(true);
+    for (const char* name : kCheckable)
+        c.Item(name)->setCheckable(true);
     c.Item("mnuOptionsDisplayGridTooltips")->setVisible(false);
     c.On("mnuOptionsShowGridLines", [this] {
         const int lines = commands_->Item("mnuOptionsShowGridLines")->isChecked() ? 1 : 0;
@@ -122,13 +131,16 @@ void frmFileDiffs::ConnectCommands() {
     });
     for (int i = 0; i < 3; ++i) {
         c.Item("mnuOptionsComparisonModeOption", i)->setCheckable(true);
-        c.On("mnuOptionsComparisonModeOption", [this, i] { ComparisonModeOption(i); }, i);
+        c.On(
+            "mnuOptionsComparisonModeOption", [this, i] { ComparisonModeOption(i); }, i);
         c.Item("mnuOptionsDiffDetailOption", i)->setCheckable(true);
-        c.On("mnuOptionsDiffDetailOption", [this, i] { DiffDetailOption(i); }, i);
+        c.On(
+            "mnuOptionsDiffDetailOption", [this, i] { DiffDetailOption(i); }, i);
     }
     for (int i = 0; i < 2; ++i) {
         c.Item("mnuOptionsOutputFormatOption", i)->setCheckable(true);
-        c.On("mnuOptionsOutputFormatOption", [this, i] { OutputFormatOption(i); }, i);
+        c.On(
+            "mnuOptionsOutputFormatOption", [this, i] { OutputFormatOption(i); }, i);
     }
 }
 
@@ -158,8 +170,10 @@ void frmFileDiffs::OutputFormatOption(int i) {
 void frmFileDiffs::DiffDetailOption(int i) {
     CheckOnly(*commands_, "mnuOptionsDiffDetailOption", 3, i);
     gViewOptions->ComparisonLevel = i;
-    if (gViewOptions->OutputFormat != OutputOneWindow) Grid_Click(Side::Original);
-    else CompareFiles(true);
+    if (gViewOptions->OutputFormat != OutputOneWindow)
+        Grid_Click(Side::Original);
+    else
+        CompareFiles(true);
 }
 
 void frmFileDiffs::mnuOptionsFont_Click() {
@@ -175,11 +189,13 @@ void frmFileDiffs::mnuOptionsFont_Click() {
 }
 
 void frmFileDiffs::SetCommandsForNoResults() {
-    for (const Availability& a : kAvailability) commands_->Enable(a.name, a.idle);
+    for (const Availability& a : kAvailability)
+        commands_->Enable(a.name, a.idle);
 }
 
 void frmFileDiffs::SetCommandsForResults() {
-    for (const Availability& a : kAvailability) commands_->Enable(a.name, a.results);
+    for (const Availability& a : kAvailability)
+        commands_->Enable(a.name, a.results);
 }
 
 void frmFileDiffs::SetMenuChecked(const std::string& name, int index, bool checked) {

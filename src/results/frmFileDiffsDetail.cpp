@@ -35,15 +35,23 @@ std::string frmFileDiffs::CurrentLine(Side side) const {
 }
 
 void frmFileDiffs::ShowDetailForCurrentRow() {
-    if (RowsHaveNoColour() || EitherLineEmpty()) DisplaySelectedLinesInRTF();
-    else DisplayLineDiffs();
+    if (RowsHaveNoColour() || EitherLineEmpty())
+        DisplaySelectedLinesInRTF();
+    else
+        DisplayLineDiffs();
 }
 
 void frmFileDiffs::DisplayLineDiffs() {
     switch (gViewOptions->ComparisonLevel) {
-    case LevelCharacter: DisplayLineDiffsCharLevel(); break;
-    case LevelWord: DisplayLineDiffsWordLevel(); break;
-    default: DisplayLineDiffsLineLevel(); break;
+    case LevelCharacter:
+        DisplayLineDiffsCharLevel();
+        break;
+    case LevelWord:
+        DisplayLineDiffsWordLevel();
+        break;
+    default:
+        DisplayLineDiffsLineLevel();
+        break;
     }
 }
 
@@ -86,8 +94,8 @@ void frmFileDiffs::DisplayLineDiffsCharLevel() {
             DecodeCellText(CurrentLine(Side::Original), originalGrid_.Encoding());
         const QString revised = DecodeCellText(CurrentLine(Side::Revised), revisedGrid_.Encoding());
         lcs::Marks marks1, marks2;
-        modDiff::StringDiffsCharLevel(ToUtf32(original), ToUtf32(revised),
-                                      gViewOptions->IgnoreCase, marks1, marks2);
+        modDiff::StringDiffsCharLevel(ToUtf32(original), ToUtf32(revised), gViewOptions->IgnoreCase,
+                                      marks1, marks2);
         PaintDetail(*rtfLineDiff[0], original, CharacterRuns(marks1));
         DoEvents();
         PaintDetail(*rtfLineDiff[1], revised, CharacterRuns(marks2));

@@ -106,9 +106,12 @@ void frmFileDiffs::FileBox_Change(Side side) {
 // list is what the user means then. Any other text is taken as it is.
 bool frmFileDiffs::DropOnFileBox(QComboBox& box, const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
-    if (!urls.isEmpty() && urls.first().isLocalFile()) box.setEditText(urls.first().toLocalFile());
-    else if (data.hasText()) box.setEditText(data.text());
-    else return false;
+    if (!urls.isEmpty() && urls.first().isLocalFile())
+        box.setEditText(urls.first().toLocalFile());
+    else if (data.hasText())
+        box.setEditText(data.text());
+    else
+        return false;
     FileBox_Change(&box == cboOriginalFile ? Side::Original : Side::Revised);
     return true;
 }

@@ -17,7 +17,9 @@ namespace {
 
 constexpr int kToolTipLength = 255;
 
-Side Other(Side side) { return side == Side::Original ? Side::Revised : Side::Original; }
+Side Other(Side side) {
+    return side == Side::Original ? Side::Revised : Side::Original;
+}
 
 } // namespace
 
@@ -31,7 +33,8 @@ void frmFileDiffs::ConnectGridEvents() {
         connect(view, &FlexGridView::MouseMove, this,
                 [this, side](long row) { Grid_MouseMove(side, row); });
         QComboBox* box = side == Side::Original ? cboOriginalFile : cboRevisedFile;
-        connect(box->lineEdit(), &QLineEdit::textEdited, this, [this, side] { FileBox_Change(side); });
+        connect(box->lineEdit(), &QLineEdit::textEdited, this,
+                [this, side] { FileBox_Change(side); });
     }
 }
 
@@ -77,6 +80,5 @@ bool frmFileDiffs::EitherLineEmpty() const {
     return LineTextOfCell(originalGrid_.Text(), numbers).empty() ||
            LineTextOfCell(revisedGrid_.Text(), numbers).empty();
 }
-
 
 } // namespace orvane

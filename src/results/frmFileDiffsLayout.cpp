@@ -1,8 +1,8 @@
 // The main window's regions on screen: the twips arithmetic of WindowLayout applied to the
 // widgets, the splitter handle, and drops on the file boxes.
 #include "compare/ViewOptions.h"
-#include "frame/Globals.h"
 #include "dialogs/AutoCompletePath.h"
+#include "frame/Globals.h"
 #include "results/Commands.h"
 #include "results/DiffBarView.h"
 #include "results/FlexGridView.h"
@@ -11,9 +11,9 @@
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QGuiApplication>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QProgressBar>
@@ -126,8 +126,10 @@ void frmFileDiffs::PlaceRegions() {
 void frmFileDiffs::Splitter_MouseDown(int button, float x) {
     const bool wasDragging = splitterDrag_.Dragging();
     splitterDrag_.MouseDown(regions_, button, x);
-    if (wasDragging && !splitterDrag_.Dragging()) Form_Resize();
-    else PlaceRegions();
+    if (wasDragging && !splitterDrag_.Dragging())
+        Form_Resize();
+    else
+        PlaceRegions();
 }
 
 void frmFileDiffs::Splitter_MouseMove(float x) {

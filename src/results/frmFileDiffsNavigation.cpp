@@ -29,8 +29,8 @@ void frmFileDiffs::DrawDiffBars(bool& Ok) {
 
 void frmFileDiffs::MarkCurrentRowInDiffsBar() {
     try {
-        pctContainer->ShowMark(DiffBarMarkY(originalGrid_.Row(), originalGrid_.Rows() - 1,
-                                            pctContainer->BarHeight()));
+        pctContainer->ShowMark(
+            DiffBarMarkY(originalGrid_.Row(), originalGrid_.Rows() - 1, pctContainer->BarHeight()));
     } catch (...) {
         ReportUnexpectedError("frmFileDiffs.MarkCurrentRowInDiffsBar");
     }
@@ -86,7 +86,9 @@ long frmFileDiffs::ScanForDiff(bool forward, const char* location) {
     return result;
 }
 
-long frmFileDiffs::GetNextDiff() { return ScanForDiff(true, "frmFileDiffs.GetNextDiff"); }
+long frmFileDiffs::GetNextDiff() {
+    return ScanForDiff(true, "frmFileDiffs.GetNextDiff");
+}
 
 long frmFileDiffs::GetPreviousDiff() {
     return ScanForDiff(false, "frmFileDiffs.GetPreviousDiff");
@@ -95,14 +97,19 @@ long frmFileDiffs::GetPreviousDiff() {
 void frmFileDiffs::StepToDiff(bool forward) {
     if (mousePointer_ == PointerHourglass) return;
     const long row = forward ? GetNextDiff() : GetPreviousDiff();
-    if (row != kNoMoreDiffs && row != kNavigationBusy) FollowRow(row);
+    if (row != kNoMoreDiffs && row != kNavigationBusy)
+        FollowRow(row);
     else if (isVisible())
         prompter().MsgBox("No more differences", MsgIcon::Information,
                           forward ? "Next Difference" : "Previous Difference");
 }
 
-void frmFileDiffs::mnuFileShowNextDiff_Click() { StepToDiff(true); }
-void frmFileDiffs::mnuFileShowPreviousDiff_Click() { StepToDiff(false); }
+void frmFileDiffs::mnuFileShowNextDiff_Click() {
+    StepToDiff(true);
+}
+void frmFileDiffs::mnuFileShowPreviousDiff_Click() {
+    StepToDiff(false);
+}
 
 void frmFileDiffs::ShowFirstOrLast(bool first) {
     if (mousePointer_ == PointerHourglass) return;
@@ -128,7 +135,11 @@ void frmFileDiffs::ShowFirstOrLast(bool first) {
     }
 }
 
-void frmFileDiffs::mnuFileShowFirstDiff_Click() { ShowFirstOrLast(true); }
-void frmFileDiffs::mnuFileShowLastDiff_Click() { ShowFirstOrLast(false); }
+void frmFileDiffs::mnuFileShowFirstDiff_Click() {
+    ShowFirstOrLast(true);
+}
+void frmFileDiffs::mnuFileShowLastDiff_Click() {
+    ShowFirstOrLast(false);
+}
 
 } // namespace orvane

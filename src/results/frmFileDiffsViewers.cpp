@@ -22,7 +22,9 @@ std::string HandlerName(Side side, const char* command) {
     return std::string("frmFileDiffs.mnuView") + SideName(side) + "File" + command + "_Click";
 }
 
-bool IsNotepad(const std::string& spec) { return StringsAreEqualCompare(spec, "Notepad.exe", 1); }
+bool IsNotepad(const std::string& spec) {
+    return StringsAreEqualCompare(spec, "Notepad.exe", 1);
+}
 
 } // namespace
 
@@ -48,8 +50,7 @@ std::string frmFileDiffs::DownloadForViewer(Side side, const std::string& url) {
     const std::string page = MakeDownloadFileSpec();
     if (!page.empty() && modOrvane::DownloadWebPage(url, page)) return page;
     std::remove(page.c_str());
-    prompter().MsgBox(DownloadFailureText(side), MsgIcon::Exclamation,
-                      "Web Page Download failure");
+    prompter().MsgBox(DownloadFailureText(side), MsgIcon::Exclamation, "Web Page Download failure");
     return {};
 }
 

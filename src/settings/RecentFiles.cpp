@@ -13,7 +13,9 @@ const char* SectionOf(Side side) {
     return side == Side::Original ? "OriginalFiles" : "RevisedFiles";
 }
 
-std::string KeyOf(int place) { return "File" + std::to_string(place); }
+std::string KeyOf(int place) {
+    return "File" + std::to_string(place);
+}
 
 std::array<std::string, kRecentFilePlaces + 1> ReadPlaces(Side side) {
     std::array<std::string, kRecentFilePlaces + 1> places; // 1-based

@@ -23,7 +23,8 @@ class ScriptedOutput : public DiffOutput {
 
 std::string Lines(int count, char tag) {
     std::string s;
-    for (int i = 1; i <= count; ++i) s += std::string(1, tag) + std::to_string(i) + "\n";
+    for (int i = 1; i <= count; ++i)
+        s += std::string(1, tag) + std::to_string(i) + "\n";
     return s;
 }
 
@@ -47,15 +48,18 @@ std::string Kinds(const FlexGrid& g) {
     std::string k;
     for (long r = 1; r < g.Rows(); ++r) {
         const Colour c = g.RowBackColor(r);
-        k += c == ColourOrphanRows ? 'o' : c == ColourDifferRows ? 'c' : g.RowText(r).empty() ? '_' : '.';
+        k += c == ColourOrphanRows   ? 'o'
+             : c == ColourDifferRows ? 'c'
+             : g.RowText(r).empty()  ? '_'
+                                     : '.';
     }
     return k;
 }
 
 TEST(DiffRows, WorkedExampleOfThreeHunks) {
     Applied a;
-    Apply(a, Lines(8, 'a'), Lines(9, 'b'), {"2c2,3", "< a2", "---", "> b2", "> b3", "4d4", "< a4",
-                                            "7a8", "> b8"});
+    Apply(a, Lines(8, 'a'), Lines(9, 'b'),
+          {"2c2,3", "< a2", "---", "> b2", "> b3", "4d4", "< a4", "7a8", "> b8"});
     ASSERT_TRUE(a.ok);
     EXPECT_EQ(a.list, (DiffList{"2-2-14270416", "5-1-10605047", "9-1-10605047"}));
     EXPECT_EQ(a.original.Rows(), 12); // ten data rows, the fixed row and the trailing blank row
@@ -87,7 +91,9 @@ struct HunkCase {
     DiffList list;
 };
 
-void PrintTo(const HunkCase& c, std::ostream* os) { *os << c.name; }
+void PrintTo(const HunkCase& c, std::ostream* os) {
+    *os << c.name;
+}
 
 class Hunks : public ::testing::TestWithParam<HunkCase> {};
 
@@ -108,12 +114,17 @@ INSTANTIATE_TEST_SUITE_P(
         HunkCase{"DeletedAtTop", 4, 2, {"1,2d0"}, "oo.._", "__.._", {"1-2-10605047"}},
         HunkCase{"ThreeAgainstOne", 8, 6, {"5,7c5"}, "....ccc._", "....ccc._", {"5-3-14270416"}},
         HunkCase{"OneAgainstThree", 3, 5, {"2c2,4"}, ".ccc._", ".ccc._", {"2-3-14270416"}},
-        HunkCase{"EqualCountsInsertNothing", 5, 5, {"3,4c3,4"}, "..cc._", "..cc._",
-                 {"3-2-14270416"}},
+        HunkCase{
+            "EqualCountsInsertNothing", 5, 5, {"3,4c3,4"}, "..cc._", "..cc._", {"3-2-14270416"}},
         HunkCase{"AddedAfterTheLastLine", 2, 3, {"2a3"}, "..__", "..o_", {"3-1-10605047"}},
         HunkCase{"EmptyOriginal", 0, 2, {"0a1,2"}, "___", "oo_", {"1-2-10605047"}},
-        HunkCase{"TextLinesAreNotRead", 3, 3, {"< 9a9", "---", "> 1c1", "\\ No newline", "2c2"},
-                 ".c._", ".c._", {"2-1-14270416"}}),
+        HunkCase{"TextLinesAreNotRead",
+                 3,
+                 3,
+                 {"< 9a9", "---", "> 1c1", "\\ No newline", "2c2"},
+                 ".c._",
+                 ".c._",
+                 {"2-1-14270416"}}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(DiffRows, AHunkOutsideTheGridsEvensThemUpAndSaysSo) {
@@ -179,8 +190,10 @@ TEST(DiffRows, AlignedGridsAgreeWithGnuDiffOnRandomPairs) {
     for (int round = 0; round < 60; ++round) {
         std::string left, right;
         const int n = static_cast<int>(rng() % 40), m = static_cast<int>(rng() % 40);
-        for (int i = 0; i < n; ++i) left += "L" + std::to_string(rng() % 6) + "\n";
-        for (int i = 0; i < m; ++i) right += "L" + std::to_string(rng() % 6) + "\n";
+        for (int i = 0; i < n; ++i)
+            left += "L" + std::to_string(rng() % 6) + "\n";
+        for (int i = 0; i < m; ++i)
+            right += "L" + std::to_string(rng() % 6) + "\n";
         const std::string a = dir.Write("a", left), b = dir.Write("b", right);
         FlexGrid original, revised;
         DiffList list;

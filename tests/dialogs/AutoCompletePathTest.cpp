@@ -56,8 +56,8 @@ TEST_F(AutoCompleteTest, ProposesTheRestOfAFolderNameSelected) {
 }
 
 TEST_F(AutoCompleteTest, ProposesNothingWhereItMustNot) {
-    for (const std::string& text : std::vector<std::string>{dir.Path(), dir.Path() + "d", "\\server", "http://host/pa",
-                                   dir.Path() + "zz"}) {
+    for (const std::string& text : std::vector<std::string>{
+             dir.Path(), dir.Path() + "d", "\\server", "http://host/pa", dir.Path() + "zz"}) {
         control.start = -1;
         Type(text);
         EXPECT_EQ(control.text, text) << text;
@@ -89,7 +89,8 @@ TEST_F(AutoCompleteTest, FoldersAreTestedByListing) {
 TEST(AutoCompleteHuge, AKeystrokeDuringAScanCancelsItAndTheNewestTextWins) {
     gAppPath = ORVANE_BIN_DIR;
     test::TempDir dir;
-    for (int i = 0; i < 20000; ++i) dir.Write("f" + std::to_string(i), "");
+    for (int i = 0; i < 20000; ++i)
+        dir.Write("f" + std::to_string(i), "");
     std::filesystem::create_directories(dir.Path() + "zebra");
     std::filesystem::create_directories(dir.Path() + "apple");
     FakeControl control;
@@ -97,7 +98,9 @@ TEST(AutoCompleteHuge, AKeystrokeDuringAScanCancelsItAndTheNewestTextWins) {
     struct TypingPrompter : Prompter {
         std::function<void()> onEvents;
         void MsgBox(const std::string&, MsgIcon, const std::string&) override {}
-        bool InputBox(const std::string&, const std::string&, std::string&) override { return false; }
+        bool InputBox(const std::string&, const std::string&, std::string&) override {
+            return false;
+        }
         bool OpenFileDialog(const std::string&, const std::string&, std::string&) override {
             return false;
         }

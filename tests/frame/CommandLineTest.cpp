@@ -24,7 +24,9 @@ struct Case {
     const char* report;
 };
 
-void PrintTo(const Case& c, std::ostream* os) { *os << c.line; }
+void PrintTo(const Case& c, std::ostream* os) {
+    *os << c.line;
+}
 
 class CommandLineCases : public ::testing::TestWithParam<Case> {};
 
@@ -40,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
     Lines, CommandLineCases,
     ::testing::Values(
         Case{"", "", "", ""}, Case{"   ", "", "", ""},
-        Case{"a.html b.html", "", "", ""}, // no quote at all: idle window
+        Case{"a.html b.html", "", "", ""},      // no quote at all: idle window
         Case{R"("a.html" b.html)", "", "", ""}, // unquoted second token voids the line
         Case{R"("a.html")", "a.html", "", ""},
         Case{R"(  "a b.html"   "c d.html"  )", "a b.html", "c d.html", ""},

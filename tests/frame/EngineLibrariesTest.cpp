@@ -12,7 +12,8 @@ namespace {
 std::string FolderWithout(const test::TempDir& dir, Engine missing) {
     for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt}) {
         if (e == missing) continue;
-        std::filesystem::copy_file(ORVANE_BIN_DIR + EngineFileName(e), dir.Path() + EngineFileName(e));
+        std::filesystem::copy_file(ORVANE_BIN_DIR + EngineFileName(e),
+                                   dir.Path() + EngineFileName(e));
     }
     return dir.Path();
 }
@@ -22,7 +23,9 @@ struct ProbeCase {
     const char* reported;
 };
 
-void PrintTo(const ProbeCase& c, std::ostream* os) { *os << c.reported; }
+void PrintTo(const ProbeCase& c, std::ostream* os) {
+    *os << c.reported;
+}
 
 class Probe : public ::testing::TestWithParam<ProbeCase> {
   protected:
@@ -37,13 +40,12 @@ TEST_P(Probe, NamesTheLibraryToReport) {
     EXPECT_EQ(module, GetParam().reported);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Missing, Probe,
-    ::testing::Values(ProbeCase{Engine::KWCommon, "libkwcommon.so"},
-                      ProbeCase{Engine::DetFile, "libdetfile.so"},
-                      ProbeCase{Engine::Detagger, "libdetagger.so"},
-                      // doctxt is reported under the detagger's name
-                      ProbeCase{Engine::DocTxt, "libdetagger.so"}));
+INSTANTIATE_TEST_SUITE_P(Missing, Probe,
+                         ::testing::Values(ProbeCase{Engine::KWCommon, "libkwcommon.so"},
+                                           ProbeCase{Engine::DetFile, "libdetfile.so"},
+                                           ProbeCase{Engine::Detagger, "libdetagger.so"},
+                                           // doctxt is reported under the detagger's name
+                                           ProbeCase{Engine::DocTxt, "libdetagger.so"}));
 
 TEST(ProbeAll, SucceedsWithEveryLibraryPresent) {
     std::string module;

@@ -1,5 +1,5 @@
-#include "compare/ViewOptions.h"
 #include "frame/ErrorReporter.h"
+#include "compare/ViewOptions.h"
 #include "frame/Globals.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
@@ -103,9 +103,9 @@ TEST_F(ErrorReporterTest, AFailingDetailFileGivesTheHandlersOwnBox) {
     ::chmod(dir.Path().c_str(), 0700);
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Error in Error Handler");
-    EXPECT_EQ(prompter->boxes[0].text.rfind("An error has occured in the error handler.\r\n75\r\n",
-                                            0),
-              0u);
+    EXPECT_EQ(
+        prompter->boxes[0].text.rfind("An error has occured in the error handler.\r\n75\r\n", 0),
+        0u);
 }
 
 TEST(ApiErrorText, UnknownNumbersAreSaidSo) {

@@ -1,5 +1,5 @@
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
+#include "frame/Globals.h"
 #include "frame/NumericSort.h"
 #include "support/TempDir.h"
 
@@ -21,7 +21,7 @@ TEST_F(KWCommonTest, FileExistsOnlyForFiles) {
     EXPECT_TRUE(FileExists(file));
     EXPECT_TRUE(FileExists("  " + file + "  "));
     EXPECT_FALSE(FileExists("   "));
-    EXPECT_FALSE(FileExists(dir.Path()));                     // ends in a separator
+    EXPECT_FALSE(FileExists(dir.Path()));                                  // ends in a separator
     EXPECT_FALSE(FileExists(dir.Path().substr(0, dir.Path().size() - 1))); // a folder
     EXPECT_FALSE(FileExists(file + "\\"));
     EXPECT_FALSE(FileExists(dir.Path() + "missing.html"));
@@ -117,7 +117,8 @@ TEST(NumericSort, RandomCollectionsComeOutSorted) {
     std::srand(7);
     for (int round = 0; round < 200; ++round) {
         std::vector<long> items(static_cast<std::size_t>(std::rand() % 40));
-        for (long& v : items) v = std::rand() % 1000;
+        for (long& v : items)
+            v = std::rand() % 1000;
         std::vector<long> expected = items;
         std::sort(expected.begin(), expected.end());
         SortLongCollection(items);

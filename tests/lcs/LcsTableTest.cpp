@@ -58,7 +58,9 @@ struct EndsCase {
     const char* marksB;
 };
 
-void PrintTo(const EndsCase& c, std::ostream* os) { *os << c.a << " / " << c.b; }
+void PrintTo(const EndsCase& c, std::ostream* os) {
+    *os << c.a << " / " << c.b;
+}
 
 class FirstLastDiffTest : public ::testing::TestWithParam<EndsCase> {};
 

@@ -36,7 +36,9 @@ struct CliCase {
     const char* out;
 };
 
-void PrintTo(const CliCase& c, std::ostream* os) { *os << c.first << " / " << c.second << " " << c.options; }
+void PrintTo(const CliCase& c, std::ostream* os) {
+    *os << c.first << " / " << c.second << " " << c.options;
+}
 
 class LinediffsCliTest : public ::testing::TestWithParam<CliCase> {};
 

@@ -40,7 +40,8 @@ struct DiffCase {
 };
 
 void PrintTo(const DiffCase& c, std::ostream* os) {
-    *os << (c.words ? "words: " : "chars: ") << std::u32string(c.a).size() << "/" << std::u32string(c.b).size();
+    *os << (c.words ? "words: " : "chars: ") << std::u32string(c.a).size() << "/"
+        << std::u32string(c.b).size();
 }
 
 class LineDiffTest : public ::testing::TestWithParam<DiffCase> {};

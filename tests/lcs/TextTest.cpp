@@ -16,7 +16,9 @@ struct DecodeCase {
     const char32_t* text;
 };
 
-void PrintTo(const DecodeCase& c, std::ostream* os) { *os << std::string(c.bytes).size() << " bytes"; }
+void PrintTo(const DecodeCase& c, std::ostream* os) {
+    *os << std::string(c.bytes).size() << " bytes";
+}
 
 class DecodeTest : public ::testing::TestWithParam<DecodeCase> {};
 
@@ -53,7 +55,9 @@ struct SplitCase {
     std::vector<std::u32string> words;
 };
 
-void PrintTo(const SplitCase& c, std::ostream* os) { *os << c.words.size() << " words"; }
+void PrintTo(const SplitCase& c, std::ostream* os) {
+    *os << c.words.size() << " words";
+}
 
 class ParseWordsTest : public ::testing::TestWithParam<SplitCase> {};
 

@@ -87,7 +87,9 @@ const Strategy kStrategies[] = {
     {"cost cap of 7", {7, 0.4, 0}, false},
 };
 
-void PrintTo(const Strategy& s, std::ostream* os) { *os << s.name; }
+void PrintTo(const Strategy& s, std::ostream* os) {
+    *os << s.name;
+}
 
 class LineDiffSearch : public testing::TestWithParam<Strategy> {};
 

@@ -20,8 +20,8 @@ class DesktopAppsTest : public ::testing::Test {
         ::setenv("XDG_DATA_DIRS", (dir.Path() + "nowhere").c_str(), 1);
     }
     void Entry(const std::string& id, const std::string& exec) {
-        dir.Write("data/applications/" + id, "[Desktop Entry]\nType=Application\nName=X\nExec=" +
-                                                 exec + "\n");
+        dir.Write("data/applications/" + id,
+                  "[Desktop Entry]\nType=Application\nName=X\nExec=" + exec + "\n");
     }
     test::TempDir dir;
 };

@@ -25,7 +25,8 @@ TEST(GapBuffer, BehavesLikeAVectorUnderRandomEdits) {
         }
         ASSERT_EQ(buffer.size(), model.size());
     }
-    for (std::size_t i = 0; i < model.size(); ++i) ASSERT_EQ(buffer[i], model[i]);
+    for (std::size_t i = 0; i < model.size(); ++i)
+        ASSERT_EQ(buffer[i], model[i]);
 }
 
 TEST(FlexGrid, StartsWithTheFixedRowAndOneDataRow) {
@@ -55,11 +56,13 @@ TEST(FlexGrid, AddItemInsertsBeforeTheIndexAndKeepsFormats) {
 
 TEST(FlexGrid, ColourFillsFromRowToRowSelInEitherOrder) {
     FlexGrid g;
-    for (int i = 0; i < 6; ++i) g.AddItem("l");
+    for (int i = 0; i < 6; ++i)
+        g.AddItem("l");
     g.SetRow(5);
     g.SetRowSel(3);
     g.SetCellBackColor(7);
-    for (long r = 1; r < g.Rows(); ++r) EXPECT_EQ(g.RowBackColor(r), r >= 3 && r <= 5 ? 7u : 0u);
+    for (long r = 1; r < g.Rows(); ++r)
+        EXPECT_EQ(g.RowBackColor(r), r >= 3 && r <= 5 ? 7u : 0u);
     g.SetRow(2); // setting the row resets the selection end
     EXPECT_EQ(g.RowSel(), 2);
     g.SetCellPicture(CellPictureId::Arrow);
@@ -93,7 +96,8 @@ TEST(FlexGrid, RedrawOffHoldsBackAnnouncementsUntilOneReset) {
     std::vector<GridChange> seen;
     g.SetObserver([&](GridChange c, long, long) { seen.push_back(c); });
     g.SetRedraw(false);
-    for (int i = 0; i < 1000; ++i) g.AddItem("line", 1);
+    for (int i = 0; i < 1000; ++i)
+        g.AddItem("line", 1);
     g.SetRow(3);
     g.SetCellBackColor(1);
     EXPECT_TRUE(seen.empty());
@@ -103,7 +107,8 @@ TEST(FlexGrid, RedrawOffHoldsBackAnnouncementsUntilOneReset) {
 
 TEST(FlexGrid, RowIsVisibleFollowsTopRowAndTheViewsHeight) {
     FlexGrid g;
-    for (int i = 0; i < 100; ++i) g.AddItem("l");
+    for (int i = 0; i < 100; ++i)
+        g.AddItem("l");
     g.SetVisibleRowCount(10);
     g.SetTopRow(20);
     EXPECT_FALSE(g.RowIsVisible(19));

@@ -1,5 +1,5 @@
-#include "frame/Globals.h"
 #include "results/GridFill.h"
+#include "frame/Globals.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
@@ -59,8 +59,8 @@ TEST_F(GridFillTest, EncodingIsDecidedPerFile) {
 
 TEST_F(GridFillTest, AMissingFileIsReportedAndFails) {
     test::ScopedRecordingPrompter prompter;
-    EXPECT_FALSE(LoadFilesIntoGrids(dir.Path() + "gone", dir.Write("b", "x"), original, revised,
-                                    true));
+    EXPECT_FALSE(
+        LoadFilesIntoGrids(dir.Path() + "gone", dir.Write("b", "x"), original, revised, true));
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Unexpected Error in frmFileDiffs.LoadFilesIntoGrids");
 }

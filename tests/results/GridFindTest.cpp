@@ -8,7 +8,8 @@ namespace {
 FlexGrid Grid(std::initializer_list<const char*> cells) {
     FlexGrid g;
     long row = 1;
-    for (const char* c : cells) g.AddItem(c, row++);
+    for (const char* c : cells)
+        g.AddItem(c, row++);
     return g;
 }
 

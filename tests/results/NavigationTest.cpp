@@ -1,6 +1,6 @@
+#include "results/Navigation.h"
 #include "results/DetailRuns.h"
 #include "results/DiffBar.h"
-#include "results/Navigation.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +12,9 @@ const DiffList kList{"3-2-14270416", "10-1-10605047", "20-4-14270416"};
 TEST(Navigation, NextAndPreviousCompareWithTheFirstRowOfABlock) {
     EXPECT_EQ(NextDiffRow(kList, 1), 3);
     EXPECT_EQ(NextDiffRow(kList, 3), 10);
-    EXPECT_EQ(NextDiffRow(kList, 4), 10); // from inside the first block
+    EXPECT_EQ(NextDiffRow(kList, 4), 10);            // from inside the first block
     EXPECT_EQ(NextDiffRow(kList, 21), kNoMoreDiffs); // inside the last block
-    EXPECT_EQ(PreviousDiffRow(kList, 4), 3); // inside a block: its own first row
+    EXPECT_EQ(PreviousDiffRow(kList, 4), 3);         // inside a block: its own first row
     EXPECT_EQ(PreviousDiffRow(kList, 3), kNoMoreDiffs);
     EXPECT_EQ(PreviousDiffRow(kList, 1), kNoMoreDiffs);
     EXPECT_EQ(PreviousDiffRow(kList, 15), 10);
@@ -31,14 +31,14 @@ TEST(DiffBar, FewRowsGiveTallBands) {
     ASSERT_EQ(bands.size(), 2u);
     EXPECT_EQ(bands[0].Top, 0);
     EXPECT_EQ(bands[0].End, 19);
-    EXPECT_EQ(bands[1].Top, 57); // 191 * 3/10 = 57.3
+    EXPECT_EQ(bands[1].Top, 57);      // 191 * 3/10 = 57.3
     EXPECT_EQ(bands[1].End, 57 + 38); // 38.2 rounds to 38
     EXPECT_EQ(bands[1].ColourValue, ColourDifferRows);
 }
 
 TEST(DiffBar, ManyRowsDropBandsThatRoundToNothing) {
     const auto bands = DiffBarBands({"500-1-10605047", "900-400-14270416"}, 1000, 191);
-    ASSERT_EQ(bands.size(), 1u); // 0.191 pixels rounds to 0: not drawn
+    ASSERT_EQ(bands.size(), 1u);  // 0.191 pixels rounds to 0: not drawn
     EXPECT_EQ(bands[0].Top, 172); // 191 * 899/1000 = 171.7
     EXPECT_EQ(bands[0].End, 172 + 76);
 }
@@ -52,7 +52,7 @@ TEST(DiffBar, HalfwayRoundsToEven) {
 }
 
 TEST(DiffBar, PressesLandOnDataRows) {
-    EXPECT_EQ(DiffBarTargetRow(0, 100, 191), 1); // never the fixed row
+    EXPECT_EQ(DiffBarTargetRow(0, 100, 191), 1);     // never the fixed row
     EXPECT_EQ(DiffBarTargetRow(191, 100, 191), 100); // the trailing blank row
     EXPECT_EQ(DiffBarTargetRow(95.5f, 100, 191), 50);
 }
@@ -72,7 +72,8 @@ TEST(DetailRuns, CharacterRunsAreMaximalStretchesOfDifferences) {
 
 TEST(DetailRuns, WordRunsTakeTheBlankAheadOfAChangedWord) {
     std::u32string shown;
-    const auto runs = WordRuns({U"new", U"red", U"big", U"car"}, {false, true, false, false}, shown);
+    const auto runs =
+        WordRuns({U"new", U"red", U"big", U"car"}, {false, true, false, false}, shown);
     EXPECT_EQ(shown, U"new red big car");
     ASSERT_EQ(runs.size(), 3u);
     EXPECT_EQ(runs[0].Start, 0); // a changed first word has no blank ahead

@@ -14,7 +14,9 @@ struct LongCase {
     std::optional<std::int32_t> Expected; // nullopt: not numeric
 };
 
-void PrintTo(const LongCase& c, std::ostream* os) { *os << '"' << c.Text << '"'; }
+void PrintTo(const LongCase& c, std::ostream* os) {
+    *os << '"' << c.Text << '"';
+}
 
 class ToLong : public ::testing::TestWithParam<LongCase> {};
 

@@ -19,7 +19,9 @@ struct ReadCase {
     std::string Expected; // default is "dflt"
 };
 
-void PrintTo(const ReadCase& c, std::ostream* os) { *os << c.Name; }
+void PrintTo(const ReadCase& c, std::ostream* os) {
+    *os << c.Name;
+}
 
 class ProfileRead : public ProgramFolderTest, public ::testing::WithParamInterface<ReadCase> {};
 
@@ -59,7 +61,9 @@ struct IntCase {
     std::int32_t Expected;
 };
 
-void PrintTo(const IntCase& c, std::ostream* os) { *os << '"' << c.Value << '"'; }
+void PrintTo(const IntCase& c, std::ostream* os) {
+    *os << '"' << c.Value << '"';
+}
 
 class ProfileInt : public ProgramFolderTest, public ::testing::WithParamInterface<IntCase> {};
 
@@ -82,7 +86,9 @@ struct WriteCase {
     std::string After;
 };
 
-void PrintTo(const WriteCase& c, std::ostream* os) { *os << c.Name; }
+void PrintTo(const WriteCase& c, std::ostream* os) {
+    *os << c.Name;
+}
 
 class ProfileWrite : public ProgramFolderTest, public ::testing::WithParamInterface<WriteCase> {};
 

@@ -1,7 +1,7 @@
+#include "settings/RecentFiles.h"
 #include "frame/Globals.h"
 #include "settings/IniFile.h"
 #include "settings/IniFileName.h"
-#include "settings/RecentFiles.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
@@ -26,11 +26,13 @@ class RecentFilesTest : public ::testing::Test {
     }
     std::vector<std::string> Numbered(int count) {
         std::vector<std::string> v;
-        for (int i = 1; i <= count; ++i) v.push_back("f" + std::to_string(i));
+        for (int i = 1; i <= count; ++i)
+            v.push_back("f" + std::to_string(i));
         return v;
     }
     void Fill(int count) {
-        for (int i = 1; i <= count; ++i) Store(Side::Original, i, "f" + std::to_string(i));
+        for (int i = 1; i <= count; ++i)
+            Store(Side::Original, i, "f" + std::to_string(i));
     }
     test::TempDir dir;
     test::ScopedRecordingPrompter prompter;
@@ -48,7 +50,8 @@ TEST_F(RecentFilesTest, ANewInputPushesTheLastPlaceOff) {
     Fill(20);
     PushRecentFile(Side::Original, "new");
     std::vector<std::string> expected{"new"};
-    for (auto& f : Numbered(19)) expected.push_back(f);
+    for (auto& f : Numbered(19))
+        expected.push_back(f);
     EXPECT_EQ(ReadRecentFiles(Side::Original), expected);
 }
 

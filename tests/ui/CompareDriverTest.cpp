@@ -13,7 +13,9 @@ struct Refusal {
     const char* text;
 };
 
-void PrintTo(const Refusal& r, std::ostream* os) { *os << r.name; }
+void PrintTo(const Refusal& r, std::ostream* os) {
+    *os << r.name;
+}
 
 class Refusals : public DriverTest, public ::testing::WithParamInterface<Refusal> {
   protected:
@@ -52,24 +54,23 @@ TEST_P(Refusals, GoToTheMessageInAnUnattendedRun) {
 
 INSTANTIATE_TEST_SUITE_P(
     Inputs, Refusals,
-    ::testing::Values(
-        Refusal{"NoOriginal", "   ", "@file", "No Original HTML File",
-                "Please specify an Original HTML file."},
-        Refusal{"NoRevised", "@file", "", "No Revised HTML File",
-                "Please specify a Revised HTML file."},
-        Refusal{"BareHostOriginal", "www.example.org", "@file", "Invalid URL Format",
-                "Web Addresses must begin with HTTP://"},
-        Refusal{"BareHostRevised", "@file", "Www.example.org", "Invalid URL Format",
-                "Web Addresses must begin with HTTP://"},
-        Refusal{"MissingOriginal", "@missing", "@file", "File Does Not Exist",
-                "Original file is not an existing file."},
-        Refusal{"MissingRevised", "@file", "@missing", "File Does Not Exist",
-                "Revised file is not an existing file."},
-        Refusal{"FolderAsFile", "@folder", "@file", "File Does Not Exist",
-                "Original file is not an existing file."},
-        // a bare host name is refused before any look at the disk
-        Refusal{"BareHostBeforeMissing", "wwwpage.html", "@missing", "Invalid URL Format",
-                "Web Addresses must begin with HTTP://"}),
+    ::testing::Values(Refusal{"NoOriginal", "   ", "@file", "No Original HTML File",
+                              "Please specify an Original HTML file."},
+                      Refusal{"NoRevised", "@file", "", "No Revised HTML File",
+                              "Please specify a Revised HTML file."},
+                      Refusal{"BareHostOriginal", "www.example.org", "@file", "Invalid URL Format",
+                              "Web Addresses must begin with HTTP://"},
+                      Refusal{"BareHostRevised", "@file", "Www.example.org", "Invalid URL Format",
+                              "Web Addresses must begin with HTTP://"},
+                      Refusal{"MissingOriginal", "@missing", "@file", "File Does Not Exist",
+                              "Original file is not an existing file."},
+                      Refusal{"MissingRevised", "@file", "@missing", "File Does Not Exist",
+                              "Revised file is not an existing file."},
+                      Refusal{"FolderAsFile", "@folder", "@file", "File Does Not Exist",
+                              "Original file is not an existing file."},
+                      // a bare host name is refused before any look at the disk
+                      Refusal{"BareHostBeforeMissing", "wwwpage.html", "@missing",
+                              "Invalid URL Format", "Web Addresses must begin with HTTP://"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(DriverTest, IdenticalFilesEndWithTheirMessage) {
@@ -163,7 +164,8 @@ TEST_F(DriverTest, AFileAddressIsFetchedComparedAndItsCopyRemoved) {
     Compare("file://" + a, dir.Write("b.html", "1\n3\n"));
     EXPECT_EQ(window->Diffs(), DiffList{"2-1-14270416"});
     EXPECT_FALSE(gViewOptions->OriginalDownloadFile.empty());
-    EXPECT_FALSE(std::filesystem::exists(gViewOptions->OriginalDownloadFile)); // the exit's clean-up
+    EXPECT_FALSE(
+        std::filesystem::exists(gViewOptions->OriginalDownloadFile)); // the exit's clean-up
 }
 
 TEST_F(DriverTest, CommandLineWithTwoFilesComparesAtLoad) {

@@ -29,7 +29,9 @@ class DriverTest : public ::testing::Test {
             LoadEngine(e, ORVANE_BIN_DIR);
         gAppPath = dir.Path();
         window = std::make_unique<frmFileDiffs>();
-        window->ShowModal = [this](QDialog& d) { dialogues.push_back(d.objectName().toStdString()); };
+        window->ShowModal = [this](QDialog& d) {
+            dialogues.push_back(d.objectName().toStdString());
+        };
         window->Form_Load("");
         prompter->boxes.clear();
         prompter->helpContexts.clear();

@@ -11,8 +11,8 @@ namespace orvane::test {
 namespace {
 
 void CopyEngines(const TempDir& dir, Engine missing) {
-    for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt,
-                     Engine::LineDiff})
+    for (Engine e :
+         {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt, Engine::LineDiff})
         if (e != missing)
             std::filesystem::copy_file(ORVANE_BIN_DIR + EngineFileName(e),
                                        dir.Path() + EngineFileName(e));

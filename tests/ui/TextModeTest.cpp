@@ -48,7 +48,8 @@ TEST_F(TextModeTest, TheOfficeSuiteFirstFailsAsOnAMachineWithoutIt) {
     gExtractionOptions->EnginePreference = 1;
     Compare(dir.Write("a.html", "<p>a</p>"), dir.Write("b.html", "<p>b</p>"));
     ASSERT_EQ(prompter->boxes.size(), 2u);
-    EXPECT_EQ(prompter->boxes[0].title, "Unexpected Error in modConvertFormats.ConvertFileIfNeeded");
+    EXPECT_EQ(prompter->boxes[0].title,
+              "Unexpected Error in modConvertFormats.ConvertFileIfNeeded");
     EXPECT_EQ(prompter->boxes[1].title, "Original File Text Extraction Failed");
     EXPECT_EQ(prompter->boxes[1].text, "");
 }

@@ -41,7 +41,8 @@ TEST_F(WindowTest, CommandsFollowTheResults) {
 TEST_F(WindowTest, ToolbarHasTwentyPlacesAndIsDeadDuringARun) {
     Commands& c = window->CommandSurface();
     int buttons = 0;
-    for (int place = 1; place <= 20; ++place) buttons += c.Button(place) != nullptr;
+    for (int place = 1; place <= 20; ++place)
+        buttons += c.Button(place) != nullptr;
     EXPECT_EQ(buttons, 16);
     EXPECT_EQ(c.Button(4), nullptr);
     EXPECT_EQ(c.Button(3)->toolTip(), "Compare the Files");

@@ -32,8 +32,10 @@ int main(int argc, char* argv[]) {
     QApplication::processEvents();
     // Drag the splitter to the middle, as a user with a wide window would.
     const Region& handle = window.Regions().Splitter;
-    const float middle = (window.Regions().grdRevisedFile.Left + window.Regions().grdRevisedFile.Width +
-                          window.Regions().grdOriginalFile.Left) / 2;
+    const float middle =
+        (window.Regions().grdRevisedFile.Left + window.Regions().grdRevisedFile.Width +
+         window.Regions().grdOriginalFile.Left) /
+        2;
     window.Splitter_MouseDown(1, 0);
     window.Splitter_MouseUp(middle - handle.Left);
     window.OriginalFileBox()->setEditText(argv[1]);

@@ -54,7 +54,9 @@ char32_t Upper(char32_t c) {
 } // namespace
 
 // One definition of well-formed UTF-8 for the whole program: the grids decide by it too.
-bool IsValidUtf8(std::string_view bytes) { return orvane::IsValidUtf8(bytes); }
+bool IsValidUtf8(std::string_view bytes) {
+    return orvane::IsValidUtf8(bytes);
+}
 
 TextEncoding GuessEncoding(std::string_view bytes) {
     return IsValidUtf8(bytes) ? TextEncoding::Utf8 : TextEncoding::Windows1252;

@@ -20,7 +20,9 @@ int Emit(const std::string& s, char* out, int outSize) {
     return static_cast<int>(s.size());
 }
 
-bool IsSeparator(char c) { return c == '/' || c == '\\'; }
+bool IsSeparator(char c) {
+    return c == '/' || c == '\\';
+}
 
 std::size_t LastSeparator(std::string_view p) {
     const std::size_t slash = p.find_last_of("/\\");
@@ -83,7 +85,8 @@ KW_EXPORT int NormalizePath(const char* path, char* out, int outSize) {
     const std::size_t sep = LastSeparator(p);
     if (sep == std::string::npos) return Emit("", out, outSize);
     p.erase(sep + 1);
-    while (p.size() > 1 && IsSeparator(p[p.size() - 2])) p.erase(p.size() - 1);
+    while (p.size() > 1 && IsSeparator(p[p.size() - 2]))
+        p.erase(p.size() - 1);
     return Emit(p, out, outSize);
 }
 
