@@ -62,6 +62,17 @@ class Tokenizer {
     void EmitChars(std::u32string_view chars) {
         pending_.append(chars);
     }
+    // Every text state but data treats NULL, the end of input and other characters alike.
+    void EmitText(char32_t c) {
+        if (c == 0) {
+            Error(ParseErrorCode::UnexpectedNullCharacter);
+            EmitChar(U'\uFFFD');
+        } else if (c == kEof) {
+            EmitEof();
+        } else {
+            EmitChar(c);
+        }
+    }
     void EmitCurrent();
     void EmitEof();
     void FlushCharacters();
@@ -80,6 +91,10 @@ class Tokenizer {
     void TextEndTagName(char32_t c, State text);
     bool IsAppropriateEndTag() const;
     void AttributeValueQuoted(char32_t c, char32_t quote, State self);
+    void TagEof();
+    void CommentEof();
+    void DoctypeAfterKeyword(char32_t c, bool isPublic);
+    void DoctypeBeforeIdentifier(char32_t c, bool isPublic);
     void DoctypeIdentifierQuoted(char32_t c, char32_t quote, bool isPublic);
     void DoctypeEof();
     void DoctypeBogus(ParseErrorCode code);
@@ -90,6 +105,8 @@ class Tokenizer {
     bool InAttribute() const;
     void FlushCharRef();
     void ConsumeNamedCharRef();
+    void NumericCharRefStart(bool isDigit, State digits);
+    void EndNumericCharRefDigits(char32_t c);
     void FinishNumericCharRef();
 
     InputStream input_;

@@ -32,6 +32,11 @@ void Tokenizer::EmitTag() {
     EmitCurrent();
 }
 
+void Tokenizer::TagEof() {
+    Error(ParseErrorCode::EofInTag);
+    EmitEof();
+}
+
 void Tokenizer::StartAttribute() {
     CommitAttribute();
     attrOpen_ = true;
@@ -109,8 +114,7 @@ void Tokenizer::OnAfterAttributeName(char32_t c) {
         state_ = State::Data;
         EmitTag();
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInTag);
-        EmitEof();
+        TagEof();
     } else {
         StartAttribute();
         Reconsume(State::AttributeName);
@@ -142,8 +146,7 @@ void Tokenizer::AttributeValueQuoted(char32_t c, char32_t quote, State self) {
         Error(ParseErrorCode::UnexpectedNullCharacter);
         attr_.value.push_back(U'\uFFFD');
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInTag);
-        EmitEof();
+        TagEof();
     } else {
         attr_.value.push_back(c);
     }
@@ -170,8 +173,7 @@ void Tokenizer::OnAttributeValueUnquoted(char32_t c) {
         Error(ParseErrorCode::UnexpectedNullCharacter);
         attr_.value.push_back(U'\uFFFD');
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInTag);
-        EmitEof();
+        TagEof();
     } else {
         if (c == '"' || c == '\'' || c == '<' || c == '=' || c == '`')
             Error(ParseErrorCode::UnexpectedCharacterInUnquotedAttributeValue);
@@ -188,8 +190,7 @@ void Tokenizer::OnAfterAttributeValueQuoted(char32_t c) {
         state_ = State::Data;
         EmitTag();
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInTag);
-        EmitEof();
+        TagEof();
     } else {
         Error(ParseErrorCode::MissingWhitespaceBetweenAttributes);
         Reconsume(State::BeforeAttributeName);
@@ -202,8 +203,7 @@ void Tokenizer::OnSelfClosingStartTag(char32_t c) {
         state_ = State::Data;
         EmitTag();
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInTag);
-        EmitEof();
+        TagEof();
     } else {
         Error(ParseErrorCode::UnexpectedSolidusInTag);
         Reconsume(State::BeforeAttributeName);

@@ -105,48 +105,44 @@ void Tokenizer::OnNumericCharacterReference(char32_t c) {
     }
 }
 
-void Tokenizer::OnHexadecimalCharacterReferenceStart(char32_t c) {
-    if (IsAsciiHexDigit(c)) {
-        Reconsume(State::HexadecimalCharacterReference);
-        return;
-    }
+// Hexadecimal and decimal references fail alike when no digit follows.
+void Tokenizer::NumericCharRefStart(bool isDigit, State digits) {
+    if (isDigit) return Reconsume(digits);
     Error(ParseErrorCode::AbsenceOfDigitsInNumericCharacterReference);
     FlushCharRef();
     Reconsume(returnState_);
 }
 
+void Tokenizer::OnHexadecimalCharacterReferenceStart(char32_t c) {
+    NumericCharRefStart(IsAsciiHexDigit(c), State::HexadecimalCharacterReference);
+}
 void Tokenizer::OnDecimalCharacterReferenceStart(char32_t c) {
-    if (IsAsciiDigit(c)) {
-        Reconsume(State::DecimalCharacterReference);
-        return;
-    }
-    Error(ParseErrorCode::AbsenceOfDigitsInNumericCharacterReference);
-    FlushCharRef();
-    Reconsume(returnState_);
+    NumericCharRefStart(IsAsciiDigit(c), State::DecimalCharacterReference);
 }
 
 void Tokenizer::OnHexadecimalCharacterReference(char32_t c) {
     if (IsAsciiHexDigit(c)) {
         charRefCode_ = std::min(charRefCode_ * 16 + HexValue(c), kCodeCap);
-    } else if (c == ';') {
-        FinishNumericCharRef();
     } else {
-        Error(ParseErrorCode::MissingSemicolonAfterCharacterReference);
-        --pos_;
-        FinishNumericCharRef();
+        EndNumericCharRefDigits(c);
     }
 }
 
 void Tokenizer::OnDecimalCharacterReference(char32_t c) {
     if (IsAsciiDigit(c)) {
         charRefCode_ = std::min(charRefCode_ * 10 + (c - '0'), kCodeCap);
-    } else if (c == ';') {
-        FinishNumericCharRef();
     } else {
+        EndNumericCharRefDigits(c);
+    }
+}
+
+// The first non-digit ends the number; only a semicolon belongs to the reference.
+void Tokenizer::EndNumericCharRefDigits(char32_t c) {
+    if (c != ';') {
         Error(ParseErrorCode::MissingSemicolonAfterCharacterReference);
         --pos_;
-        FinishNumericCharRef();
     }
+    FinishNumericCharRef();
 }
 
 // The standard's numeric character reference end state. It consumes nothing, so its errors

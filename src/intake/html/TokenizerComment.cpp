@@ -4,6 +4,12 @@
 
 namespace html {
 
+void Tokenizer::CommentEof() {
+    Error(ParseErrorCode::EofInComment);
+    EmitCurrent();
+    EmitEof();
+}
+
 void Tokenizer::OnBogusComment(char32_t c) {
     switch (c) {
     case '>':
@@ -69,9 +75,7 @@ void Tokenizer::OnCommentStartDash(char32_t c) {
         state_ = State::Data;
         EmitCurrent();
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInComment);
-        EmitCurrent();
-        EmitEof();
+        CommentEof();
     } else {
         current_.data.push_back('-');
         Reconsume(State::Comment);
@@ -92,9 +96,7 @@ void Tokenizer::OnComment(char32_t c) {
         current_.data.push_back(U'\uFFFD');
         break;
     case kEof:
-        Error(ParseErrorCode::EofInComment);
-        EmitCurrent();
-        EmitEof();
+        CommentEof();
         break;
     default:
         current_.data.push_back(c);
@@ -135,9 +137,7 @@ void Tokenizer::OnCommentEndDash(char32_t c) {
     if (c == '-') {
         state_ = State::CommentEnd;
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInComment);
-        EmitCurrent();
-        EmitEof();
+        CommentEof();
     } else {
         current_.data.push_back('-');
         Reconsume(State::Comment);
@@ -157,9 +157,7 @@ void Tokenizer::OnCommentEnd(char32_t c) {
         current_.data.push_back('-');
         break;
     case kEof:
-        Error(ParseErrorCode::EofInComment);
-        EmitCurrent();
-        EmitEof();
+        CommentEof();
         break;
     default:
         current_.data.append(U"--");
@@ -176,9 +174,7 @@ void Tokenizer::OnCommentEndBang(char32_t c) {
         state_ = State::Data;
         EmitCurrent();
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInComment);
-        EmitCurrent();
-        EmitEof();
+        CommentEof();
     } else {
         current_.data.append(U"--!");
         Reconsume(State::Comment);

@@ -3,6 +3,29 @@
 #include "intake/html/Tokenizer.h"
 
 namespace html {
+namespace {
+
+// What sets the PUBLIC half of a DOCTYPE apart from the SYSTEM half.
+struct DoctypeIdentifierKind {
+    State beforeIdentifier;
+    ParseErrorCode missingWhitespaceAfterKeyword;
+    ParseErrorCode missingIdentifier;
+    ParseErrorCode missingQuote;
+};
+
+constexpr DoctypeIdentifierKind kPublicId{
+    State::BeforeDoctypePublicIdentifier,
+    ParseErrorCode::MissingWhitespaceAfterDoctypePublicKeyword,
+    ParseErrorCode::MissingDoctypePublicIdentifier,
+    ParseErrorCode::MissingQuoteBeforeDoctypePublicIdentifier};
+
+constexpr DoctypeIdentifierKind kSystemId{
+    State::BeforeDoctypeSystemIdentifier,
+    ParseErrorCode::MissingWhitespaceAfterDoctypeSystemKeyword,
+    ParseErrorCode::MissingDoctypeSystemIdentifier,
+    ParseErrorCode::MissingQuoteBeforeDoctypeSystemIdentifier};
+
+} // namespace
 
 // End of input anywhere inside a DOCTYPE gives the same ending.
 void Tokenizer::DoctypeEof() {
@@ -102,32 +125,43 @@ void Tokenizer::BeginDoctypeIdentifier(bool isPublic, char32_t quote) {
     }
 }
 
-void Tokenizer::OnAfterDoctypePublicKeyword(char32_t c) {
+// Right after a keyword a quote may come without the space, at the cost of a parse error;
+// otherwise the keyword's state is the state before its identifier.
+void Tokenizer::DoctypeAfterKeyword(char32_t c, bool isPublic) {
+    const DoctypeIdentifierKind& kind = isPublic ? kPublicId : kSystemId;
     if (IsTokenizerSpace(c)) {
-        state_ = State::BeforeDoctypePublicIdentifier;
-    } else if (c == '"' || c == '\'') {
-        Error(ParseErrorCode::MissingWhitespaceAfterDoctypePublicKeyword);
-        BeginDoctypeIdentifier(true, c);
+        state_ = kind.beforeIdentifier;
+        return;
+    }
+    if (c == '"' || c == '\'') Error(kind.missingWhitespaceAfterKeyword);
+    DoctypeBeforeIdentifier(c, isPublic);
+}
+
+void Tokenizer::DoctypeBeforeIdentifier(char32_t c, bool isPublic) {
+    const DoctypeIdentifierKind& kind = isPublic ? kPublicId : kSystemId;
+    if (IsTokenizerSpace(c)) return;
+    if (c == '"' || c == '\'') {
+        BeginDoctypeIdentifier(isPublic, c);
     } else if (c == '>') {
-        DoctypeMissingIdentifier(ParseErrorCode::MissingDoctypePublicIdentifier);
+        DoctypeMissingIdentifier(kind.missingIdentifier);
     } else if (c == kEof) {
         DoctypeEof();
     } else {
-        DoctypeBogus(ParseErrorCode::MissingQuoteBeforeDoctypePublicIdentifier);
+        DoctypeBogus(kind.missingQuote);
     }
 }
 
+void Tokenizer::OnAfterDoctypePublicKeyword(char32_t c) {
+    DoctypeAfterKeyword(c, true);
+}
 void Tokenizer::OnBeforeDoctypePublicIdentifier(char32_t c) {
-    if (IsTokenizerSpace(c)) return;
-    if (c == '"' || c == '\'') {
-        BeginDoctypeIdentifier(true, c);
-    } else if (c == '>') {
-        DoctypeMissingIdentifier(ParseErrorCode::MissingDoctypePublicIdentifier);
-    } else if (c == kEof) {
-        DoctypeEof();
-    } else {
-        DoctypeBogus(ParseErrorCode::MissingQuoteBeforeDoctypePublicIdentifier);
-    }
+    DoctypeBeforeIdentifier(c, true);
+}
+void Tokenizer::OnAfterDoctypeSystemKeyword(char32_t c) {
+    DoctypeAfterKeyword(c, false);
+}
+void Tokenizer::OnBeforeDoctypeSystemIdentifier(char32_t c) {
+    DoctypeBeforeIdentifier(c, false);
 }
 
 void Tokenizer::DoctypeIdentifierQuoted(char32_t c, char32_t quote, bool isPublic) {
@@ -161,20 +195,15 @@ void Tokenizer::OnDoctypeSystemIdentifierSingleQuoted(char32_t c) {
     DoctypeIdentifierQuoted(c, '\'', false);
 }
 
+// As between the identifiers, but a quote without the space in front is a parse error.
 void Tokenizer::OnAfterDoctypePublicIdentifier(char32_t c) {
     if (IsTokenizerSpace(c)) {
         state_ = State::BetweenDoctypePublicAndSystemIdentifiers;
-    } else if (c == '>') {
-        state_ = State::Data;
-        EmitCurrent();
-    } else if (c == '"' || c == '\'') {
-        Error(ParseErrorCode::MissingWhitespaceBetweenDoctypePublicAndSystemIdentifiers);
-        BeginDoctypeIdentifier(false, c);
-    } else if (c == kEof) {
-        DoctypeEof();
-    } else {
-        DoctypeBogus(ParseErrorCode::MissingQuoteBeforeDoctypeSystemIdentifier);
+        return;
     }
+    if (c == '"' || c == '\'')
+        Error(ParseErrorCode::MissingWhitespaceBetweenDoctypePublicAndSystemIdentifiers);
+    OnBetweenDoctypePublicAndSystemIdentifiers(c);
 }
 
 void Tokenizer::OnBetweenDoctypePublicAndSystemIdentifiers(char32_t c) {
@@ -184,34 +213,6 @@ void Tokenizer::OnBetweenDoctypePublicAndSystemIdentifiers(char32_t c) {
         EmitCurrent();
     } else if (c == '"' || c == '\'') {
         BeginDoctypeIdentifier(false, c);
-    } else if (c == kEof) {
-        DoctypeEof();
-    } else {
-        DoctypeBogus(ParseErrorCode::MissingQuoteBeforeDoctypeSystemIdentifier);
-    }
-}
-
-void Tokenizer::OnAfterDoctypeSystemKeyword(char32_t c) {
-    if (IsTokenizerSpace(c)) {
-        state_ = State::BeforeDoctypeSystemIdentifier;
-    } else if (c == '"' || c == '\'') {
-        Error(ParseErrorCode::MissingWhitespaceAfterDoctypeSystemKeyword);
-        BeginDoctypeIdentifier(false, c);
-    } else if (c == '>') {
-        DoctypeMissingIdentifier(ParseErrorCode::MissingDoctypeSystemIdentifier);
-    } else if (c == kEof) {
-        DoctypeEof();
-    } else {
-        DoctypeBogus(ParseErrorCode::MissingQuoteBeforeDoctypeSystemIdentifier);
-    }
-}
-
-void Tokenizer::OnBeforeDoctypeSystemIdentifier(char32_t c) {
-    if (IsTokenizerSpace(c)) return;
-    if (c == '"' || c == '\'') {
-        BeginDoctypeIdentifier(false, c);
-    } else if (c == '>') {
-        DoctypeMissingIdentifier(ParseErrorCode::MissingDoctypeSystemIdentifier);
     } else if (c == kEof) {
         DoctypeEof();
     } else {

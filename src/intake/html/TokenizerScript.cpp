@@ -5,20 +5,10 @@
 namespace html {
 
 void Tokenizer::OnScriptData(char32_t c) {
-    switch (c) {
-    case '<':
+    if (c == '<')
         state_ = State::ScriptDataLessThanSign;
-        break;
-    case 0:
-        Error(ParseErrorCode::UnexpectedNullCharacter);
-        EmitChar(U'\uFFFD');
-        break;
-    case kEof:
-        EmitEof();
-        break;
-    default:
-        EmitChar(c);
-    }
+    else
+        EmitText(c);
 }
 
 void Tokenizer::OnScriptDataLessThanSign(char32_t c) {
@@ -56,24 +46,14 @@ void Tokenizer::OnScriptDataEscapeStartDash(char32_t c) {
 }
 
 void Tokenizer::OnScriptDataEscaped(char32_t c) {
-    switch (c) {
-    case '-':
+    if (c == '-') {
         state_ = State::ScriptDataEscapedDash;
         EmitChar('-');
-        break;
-    case '<':
+    } else if (c == '<') {
         state_ = State::ScriptDataEscapedLessThanSign;
-        break;
-    case 0:
-        Error(ParseErrorCode::UnexpectedNullCharacter);
-        EmitChar(U'\uFFFD');
-        break;
-    case kEof:
-        Error(ParseErrorCode::EofInScriptHtmlCommentLikeText);
-        EmitEof();
-        break;
-    default:
-        EmitChar(c);
+    } else {
+        if (c == kEof) Error(ParseErrorCode::EofInScriptHtmlCommentLikeText);
+        EmitText(c);
     }
 }
 
@@ -144,25 +124,15 @@ void Tokenizer::OnScriptDataDoubleEscapeEnd(char32_t c) {
 }
 
 void Tokenizer::OnScriptDataDoubleEscaped(char32_t c) {
-    switch (c) {
-    case '-':
+    if (c == '-') {
         state_ = State::ScriptDataDoubleEscapedDash;
         EmitChar('-');
-        break;
-    case '<':
+    } else if (c == '<') {
         state_ = State::ScriptDataDoubleEscapedLessThanSign;
         EmitChar('<');
-        break;
-    case 0:
-        Error(ParseErrorCode::UnexpectedNullCharacter);
-        EmitChar(U'\uFFFD');
-        break;
-    case kEof:
-        Error(ParseErrorCode::EofInScriptHtmlCommentLikeText);
-        EmitEof();
-        break;
-    default:
-        EmitChar(c);
+    } else {
+        if (c == kEof) Error(ParseErrorCode::EofInScriptHtmlCommentLikeText);
+        EmitText(c);
     }
 }
 

@@ -27,55 +27,25 @@ void Tokenizer::OnData(char32_t c) {
 }
 
 void Tokenizer::OnRcdata(char32_t c) {
-    switch (c) {
-    case '&':
+    if (c == '&') {
         returnState_ = State::Rcdata;
         state_ = State::CharacterReference;
-        break;
-    case '<':
+    } else if (c == '<') {
         state_ = State::RcdataLessThanSign;
-        break;
-    case 0:
-        Error(ParseErrorCode::UnexpectedNullCharacter);
-        EmitChar(U'\uFFFD');
-        break;
-    case kEof:
-        EmitEof();
-        break;
-    default:
-        EmitChar(c);
+    } else {
+        EmitText(c);
     }
 }
 
 void Tokenizer::OnRawtext(char32_t c) {
-    switch (c) {
-    case '<':
+    if (c == '<')
         state_ = State::RawtextLessThanSign;
-        break;
-    case 0:
-        Error(ParseErrorCode::UnexpectedNullCharacter);
-        EmitChar(U'\uFFFD');
-        break;
-    case kEof:
-        EmitEof();
-        break;
-    default:
-        EmitChar(c);
-    }
+    else
+        EmitText(c);
 }
 
 void Tokenizer::OnPlaintext(char32_t c) {
-    switch (c) {
-    case 0:
-        Error(ParseErrorCode::UnexpectedNullCharacter);
-        EmitChar(U'\uFFFD');
-        break;
-    case kEof:
-        EmitEof();
-        break;
-    default:
-        EmitChar(c);
-    }
+    EmitText(c);
 }
 
 void Tokenizer::OnTagOpen(char32_t c) {
@@ -131,8 +101,7 @@ void Tokenizer::OnTagName(char32_t c) {
         Error(ParseErrorCode::UnexpectedNullCharacter);
         current_.name.push_back(U'\uFFFD');
     } else if (c == kEof) {
-        Error(ParseErrorCode::EofInTag);
-        EmitEof();
+        TagEof();
     } else {
         current_.name.push_back(ToAsciiLower(c));
     }

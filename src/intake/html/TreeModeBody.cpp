@@ -6,36 +6,7 @@ namespace html {
 namespace {
 
 bool ClosesP(Tag tag) {
-    switch (tag) {
-    case Tag::Address:
-    case Tag::Article:
-    case Tag::Aside:
-    case Tag::Blockquote:
-    case Tag::Center:
-    case Tag::Details:
-    case Tag::Dialog:
-    case Tag::Dir:
-    case Tag::Div:
-    case Tag::Dl:
-    case Tag::Fieldset:
-    case Tag::Figcaption:
-    case Tag::Figure:
-    case Tag::Footer:
-    case Tag::Header:
-    case Tag::Hgroup:
-    case Tag::Main:
-    case Tag::Menu:
-    case Tag::Nav:
-    case Tag::Ol:
-    case Tag::P:
-    case Tag::Search:
-    case Tag::Section:
-    case Tag::Summary:
-    case Tag::Ul:
-        return true;
-    default:
-        return false;
-    }
+    return IsBodyBlock(tag) || tag == Tag::P;
 }
 
 void AddMissingAttributes(Node* n, const Token& t) {
@@ -98,21 +69,6 @@ void TreeBuilder::BodyStartTag(Token& t) {
         ReconstructFormatting();
         PushFormatting(InsertElement(t));
         return;
-    case Tag::B:
-    case Tag::Big:
-    case Tag::Code:
-    case Tag::Em:
-    case Tag::Font:
-    case Tag::I:
-    case Tag::S:
-    case Tag::Small:
-    case Tag::Strike:
-    case Tag::Strong:
-    case Tag::Tt:
-    case Tag::U:
-        ReconstructFormatting();
-        PushFormatting(InsertElement(t));
-        return;
     case Tag::Nobr:
         ReconstructFormatting();
         if (InScope(Tag::Nobr, Scope::Default)) {
@@ -141,10 +97,13 @@ void TreeBuilder::BodyStartTag(Token& t) {
     case Tag::Thead:
     case Tag::Tr:
         return;
-    default:
+    default: {
+        // The formatting elements other than a and nobr are just noted as well.
         ReconstructFormatting();
-        InsertElement(t);
+        Node* n = InsertElement(t);
+        if (IsFormatting(tag)) PushFormatting(n);
         return;
+    }
     }
 }
 
@@ -156,17 +115,13 @@ bool TreeBuilder::BodyStartTagBlocks(Token& t) {
         InsertElement(t);
         return true;
     }
-    switch (tag) {
-    case Tag::H1:
-    case Tag::H2:
-    case Tag::H3:
-    case Tag::H4:
-    case Tag::H5:
-    case Tag::H6:
+    if (IsHeading(tag)) {
         CloseP();
         if (Current()->IsHtml() && IsHeading(Current()->tag)) Pop();
         InsertElement(t);
         return true;
+    }
+    switch (tag) {
     case Tag::Pre:
     case Tag::Listing:
         CloseP();
@@ -240,21 +195,13 @@ void TreeBuilder::BodyStartTagListItem(Token& t) {
 // Start tags with rules of their own: head content, body and frameset, void elements, forms.
 bool TreeBuilder::BodyStartTagSpecial(Token& t) {
     const Tag tag = TagOf(t);
+    if (IsHeadContent(tag)) {
+        InHead(t);
+        return true;
+    }
     switch (tag) {
     case Tag::Html:
         if (!StackHas(Tag::Template)) AddMissingAttributes(stack_[0], t);
-        return true;
-    case Tag::Base:
-    case Tag::Basefont:
-    case Tag::Bgsound:
-    case Tag::Link:
-    case Tag::Meta:
-    case Tag::Noframes:
-    case Tag::Script:
-    case Tag::Style:
-    case Tag::Template:
-    case Tag::Title:
-        InHead(t);
         return true;
     case Tag::Body:
         if (stack_.size() < 2 || !stack_[1]->Is(Tag::Body) || StackHas(Tag::Template)) return true;

@@ -6,39 +6,8 @@ namespace html {
 namespace {
 
 bool IsBlockEnd(Tag tag) {
-    switch (tag) {
-    case Tag::Address:
-    case Tag::Article:
-    case Tag::Aside:
-    case Tag::Blockquote:
-    case Tag::Button:
-    case Tag::Center:
-    case Tag::Details:
-    case Tag::Dialog:
-    case Tag::Dir:
-    case Tag::Div:
-    case Tag::Dl:
-    case Tag::Fieldset:
-    case Tag::Figcaption:
-    case Tag::Figure:
-    case Tag::Footer:
-    case Tag::Header:
-    case Tag::Hgroup:
-    case Tag::Listing:
-    case Tag::Main:
-    case Tag::Menu:
-    case Tag::Nav:
-    case Tag::Ol:
-    case Tag::Pre:
-    case Tag::Search:
-    case Tag::Section:
-    case Tag::Select:
-    case Tag::Summary:
-    case Tag::Ul:
-        return true;
-    default:
-        return false;
-    }
+    return IsBodyBlock(tag) || tag == Tag::Button || tag == Tag::Listing || tag == Tag::Pre ||
+           tag == Tag::Select;
 }
 
 bool IsHeadingNode(const Node* n) {
@@ -50,23 +19,11 @@ bool IsHeadingNode(const Node* n) {
 void TreeBuilder::BodyEndTag(Token& t) {
     if (BodyEndTagBlocks(t)) return;
     const Tag tag = TagOf(t);
-    switch (tag) {
-    case Tag::A:
-    case Tag::B:
-    case Tag::Big:
-    case Tag::Code:
-    case Tag::Em:
-    case Tag::Font:
-    case Tag::I:
-    case Tag::Nobr:
-    case Tag::S:
-    case Tag::Small:
-    case Tag::Strike:
-    case Tag::Strong:
-    case Tag::Tt:
-    case Tag::U:
+    if (IsFormatting(tag)) {
         if (!AdoptionAgency(t)) AnyOtherEndTag(t);
         return;
+    }
+    switch (tag) {
     case Tag::Applet:
     case Tag::Marquee:
     case Tag::Object:
@@ -97,6 +54,12 @@ bool TreeBuilder::BodyEndTagBlocks(Token& t) {
         if (!InScope(tag, Scope::Default)) return true;
         GenerateImpliedEndTags();
         PopUntil(tag);
+        return true;
+    }
+    if (IsHeading(tag)) {
+        if (!HeadingInScope()) return true;
+        GenerateImpliedEndTags();
+        PopUntilOneOf(IsHeadingNode);
         return true;
     }
     switch (tag) {
@@ -132,16 +95,6 @@ bool TreeBuilder::BodyEndTagBlocks(Token& t) {
         if (!InScope(tag, tag == Tag::Li ? Scope::ListItem : Scope::Default)) return true;
         GenerateImpliedEndTags(tag);
         PopUntil(tag);
-        return true;
-    case Tag::H1:
-    case Tag::H2:
-    case Tag::H3:
-    case Tag::H4:
-    case Tag::H5:
-    case Tag::H6:
-        if (!HeadingInScope()) return true;
-        GenerateImpliedEndTags();
-        PopUntilOneOf(IsHeadingNode);
         return true;
     default:
         return false;

@@ -17,18 +17,8 @@ void TreeBuilder::InTemplate(Token& t) {
     case TokenKind::Doctype:
         return InBody(t);
     case TokenKind::StartTag:
+        if (IsHeadContent(tag)) return InHead(t);
         switch (tag) {
-        case Tag::Base:
-        case Tag::Basefont:
-        case Tag::Bgsound:
-        case Tag::Link:
-        case Tag::Meta:
-        case Tag::Noframes:
-        case Tag::Script:
-        case Tag::Style:
-        case Tag::Template:
-        case Tag::Title:
-            return InHead(t);
         case Tag::Caption:
         case Tag::Colgroup:
         case Tag::Tbody:

@@ -252,6 +252,13 @@ void TreeBuilder::AfterHead(Token& t) {
     if (t.kind == TokenKind::Doctype) return;
     const Tag tag = TagOf(t);
     if (IsStart(t)) {
+        if (IsHeadContent(tag) && head_) {
+            Push(head_);
+            Node* head = head_;
+            InHead(t);
+            Remove(head);
+            return;
+        }
         switch (tag) {
         case Tag::Html:
             return InBody(t);
@@ -264,23 +271,6 @@ void TreeBuilder::AfterHead(Token& t) {
             InsertElement(t);
             mode_ = Mode::InFrameset;
             return;
-        case Tag::Base:
-        case Tag::Basefont:
-        case Tag::Bgsound:
-        case Tag::Link:
-        case Tag::Meta:
-        case Tag::Noframes:
-        case Tag::Script:
-        case Tag::Style:
-        case Tag::Template:
-        case Tag::Title: {
-            if (!head_) break;
-            Push(head_);
-            Node* head = head_;
-            InHead(t);
-            Remove(head);
-            return;
-        }
         case Tag::Head:
             return;
         default:

@@ -53,6 +53,59 @@ inline bool IsMathMlTextIntegrationPoint(const Node* n) {
     }
 }
 
+// Start tags that "in body", "after head" and "in template" all hand to the "in head" rules.
+inline bool IsHeadContent(Tag tag) {
+    switch (tag) {
+    case Tag::Base:
+    case Tag::Basefont:
+    case Tag::Bgsound:
+    case Tag::Link:
+    case Tag::Meta:
+    case Tag::Noframes:
+    case Tag::Script:
+    case Tag::Style:
+    case Tag::Template:
+    case Tag::Title:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The block elements that both close a paragraph when they start in body and end plainly
+// (in scope, implied end tags, pop) when they end; each side adds a few of its own.
+inline bool IsBodyBlock(Tag tag) {
+    switch (tag) {
+    case Tag::Address:
+    case Tag::Article:
+    case Tag::Aside:
+    case Tag::Blockquote:
+    case Tag::Center:
+    case Tag::Details:
+    case Tag::Dialog:
+    case Tag::Dir:
+    case Tag::Div:
+    case Tag::Dl:
+    case Tag::Fieldset:
+    case Tag::Figcaption:
+    case Tag::Figure:
+    case Tag::Footer:
+    case Tag::Header:
+    case Tag::Hgroup:
+    case Tag::Main:
+    case Tag::Menu:
+    case Tag::Nav:
+    case Tag::Ol:
+    case Tag::Search:
+    case Tag::Section:
+    case Tag::Summary:
+    case Tag::Ul:
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool IsHtmlIntegrationPoint(const Node* n);
 
 // Attribute value of a token, or null.
