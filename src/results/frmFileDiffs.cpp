@@ -112,6 +112,7 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
             grid->SetTextMatrix(0, 0, kIdlePrompt);
         }
         modIniFile::ReadProgramOptionsFromIniFile(*this);
+        KeepToAvailableOutputs();
         ApplyNewFont(GridFontName(kGrdOriginalFile), RoundToInt32(GridFontSize(kGrdOriginalFile)),
                      GridFontBold(kGrdOriginalFile), GridFontItalic(kGrdOriginalFile));
         ShowLineDiffPrompt();

@@ -121,6 +121,10 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void SetCommandsForResults();
     void SetCommandsForNoResults();
 
+    // The option commands of the comparison mode and the output format.
+    void ComparisonModeOption(int i);
+    void OutputFormatOption(int i);
+
     // Shows a dialogue modally; tests put a script in its place.
     std::function<void(QDialog&)> ShowModal = [](QDialog& d) { d.exec(); };
 
@@ -160,8 +164,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     float Twips(int pixels) const;
     int Pixels(float twips) const;
     void ConnectCommands();
-    void ComparisonModeOption(int i);
-    void OutputFormatOption(int i);
+    void KeepToAvailableOutputs();
     void DiffDetailOption(int i);
     void mnuOptionsFont_Click();
     FlexGridView& NamedGrid(const std::string& grid) const;

@@ -137,16 +137,27 @@ TEST_F(WindowTest, VisualAspectPushesTheOutputToOneWindow) {
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "File Does Not Exist");
     prompter->boxes.clear();
-    Item("mnuOptionsComparisonModeOption", 0)->trigger();
+    window->ComparisonModeOption(ModeVisual);
     EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
     EXPECT_TRUE(Item("mnuOptionsOutputFormatOption", 0)->isChecked());
     EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
     prompter->boxes.clear();
-    Item("mnuOptionsOutputFormatOption", 1)->trigger();
+    window->OutputFormatOption(OutputSideBySide);
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Side by Side Not Supported");
     EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
     EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
+}
+
+TEST_F(WindowTest, ChoicesThatNeedTheMergedReportStayOff) {
+    EXPECT_FALSE(Item("mnuOptionsComparisonModeOption", 0)->isEnabled());
+    EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 0)->isEnabled());
+    // The first-run defaults (Visual Aspect, and what a stored One Window would be) start as
+    // Source Code, side by side.
+    EXPECT_EQ(gViewOptions->ComparisonMode, ModeCode);
+    EXPECT_EQ(gViewOptions->OutputFormat, OutputSideBySide);
+    EXPECT_TRUE(Item("mnuOptionsComparisonModeOption", 1)->isChecked());
+    EXPECT_TRUE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
 }
 
 } // namespace
