@@ -2,38 +2,16 @@
 // layout policy, and no markup from a script, style or comment reaches the text.
 #include "intake/detagger/Convert.h"
 
+#include "support/TreeConstructionCorpus.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 namespace detagger {
 namespace {
 
 namespace fs = std::filesystem;
-
-const fs::path kTreeDir = fs::path(ORVANE_SHARED_DIR) / "corpora/html5lib-tests/tree-construction";
-
-std::vector<std::string> Documents() {
-    std::vector<std::string> docs;
-    for (const auto& entry : fs::directory_iterator(kTreeDir)) {
-        if (entry.path().extension() != ".dat") continue;
-        std::ifstream in(entry.path(), std::ios::binary);
-        std::stringstream buffer;
-        buffer << in.rdbuf();
-        const std::string text = buffer.str();
-        for (std::size_t at = text.find("#data\n"); at != std::string::npos;
-             at = text.find("\n#data\n", at)) {
-            const std::size_t start = text.find('\n', at + 1) + 1;
-            const std::size_t end = text.find("\n#errors", start - 1);
-            if (end == std::string::npos) break;
-            docs.push_back(text.substr(start, end - start));
-            at = end;
-        }
-    }
-    return docs;
-}
 
 Policies Layout(bool singleLine, bool width) {
     Policies p;
@@ -45,7 +23,7 @@ Policies Layout(bool singleLine, bool width) {
 }
 
 TEST(EngineCorpus, EveryDocumentConvertsUnderEveryLayout) {
-    const std::vector<std::string> docs = Documents();
+    const std::vector<std::string> docs = orvane::test::TreeConstructionDocuments();
     ASSERT_EQ(docs.size(), 1792u);
     for (const std::string& doc : docs) {
         for (bool singleLine : {false, true}) {
