@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kTreeDir = fs::path(ORVANE_SHARED_DIR) / "corpora/html5lib-tests/tree-construction";
+const fs::path kTreeDir = fs::path(ORVANE_CORPORA_DIR) / "html5lib-tests/tree-construction";
 constexpr std::size_t kExpectedDocuments = 1792;
 constexpr double kPassRateFloor = 0.995; // 1,787 of 1,792 reached
 

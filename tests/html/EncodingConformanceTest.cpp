@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kEncodingDir = fs::path(ORVANE_SHARED_DIR) / "corpora/html5lib-tests/encoding";
+const fs::path kEncodingDir = fs::path(ORVANE_CORPORA_DIR) / "html5lib-tests/encoding";
 constexpr std::size_t kExpectedCases = 83;
 
 struct EncodingCase {

@@ -1,4 +1,4 @@
-// The html5lib tokenizer data, run in place from the shared corpus: every case in every
+// The html5lib tokenizer data, run in place from the copy under tests/corpora: every case in every
 // initial state it names, tokens and parse errors (code, line and column) both compared.
 #include "TokenizerCases.h"
 #include "intake/html/Tokenizer.h"
@@ -12,7 +12,7 @@
 namespace {
 
 const std::filesystem::path kTokenizerDir =
-    std::filesystem::path(ORVANE_SHARED_DIR) / "corpora/html5lib-tests/tokenizer";
+    std::filesystem::path(ORVANE_CORPORA_DIR) / "html5lib-tests/tokenizer";
 
 // The data's own count; a shortfall means files went missing, not that cases passed.
 constexpr std::size_t kExpectedCases = 6810;

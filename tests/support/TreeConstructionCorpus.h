@@ -10,7 +10,7 @@
 namespace orvane::test {
 
 inline std::filesystem::path TreeConstructionDir() {
-    return std::filesystem::path(ORVANE_SHARED_DIR) / "corpora/html5lib-tests/tree-construction";
+    return std::filesystem::path(ORVANE_CORPORA_DIR) / "html5lib-tests/tree-construction";
 }
 
 // The text between "#data" and "#errors" of each case; some files hold raw NUL bytes, so they
