@@ -18,7 +18,7 @@ void ReplaceAll(std::string& text, const std::string& from, const std::string& t
 
 } // namespace
 
-void PageWriter::Open(Mark mark, std::string_view tooltip) {
+void PageWriter::Open(Mark mark, std::string_view tooltip, bool links) {
     switch (mark) {
     case Mark::Inserted:
         body_ += "<ins>";
@@ -37,10 +37,13 @@ void PageWriter::Open(Mark mark, std::string_view tooltip) {
     const int n = count_++;
     // The first and last differences link round to each other; Finish fixes the two ends once
     // the count is known.
-    body_ += "<span class=\"orvane-chrome orvane-nav\" id=\"" + Anchor(n) +
-             "\"><a class=\"orvane-chrome\" href=\"#" + Anchor(n - 1) +
-             "\" title=\"Previous difference\">&#8249;</a><a class=\"orvane-chrome\" href=\"#" +
-             Anchor(n + 1) + "\" title=\"Next difference\">&#8250;</a></span>";
+    body_ += "<span class=\"orvane-chrome orvane-nav\" id=\"" + Anchor(n) + "\">";
+    if (links) {
+        body_ += "<a class=\"orvane-chrome\" href=\"#" + Anchor(n - 1) +
+                 "\" title=\"Previous difference\">&#8249;</a><a class=\"orvane-chrome\" href=\"#" +
+                 Anchor(n + 1) + "\" title=\"Next difference\">&#8250;</a>";
+    }
+    body_ += "</span>";
 }
 
 void PageWriter::Close(Mark mark) {

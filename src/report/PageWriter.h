@@ -15,7 +15,9 @@ class PageWriter {
 
     // Opens `ins`, `del` or a changed-formatting span; the first mark of a difference carries its
     // anchor and the links to its neighbours.
-    void Open(Mark mark, std::string_view tooltip = {});
+    // `links` false inside a link, where another link would break the page's structure: the
+    // difference then keeps its anchor only.
+    void Open(Mark mark, std::string_view tooltip = {}, bool links = true);
     void Close(Mark mark);
     // Equal content was written: the next mark starts a new difference.
     void Equal() { inRun_ = false; }

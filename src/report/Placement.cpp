@@ -88,6 +88,12 @@ class Placer {
         };
         // Beside an equal word of the same block; else beside the Revised element that stands
         // where the nested block with the neighbour stood, so nothing lands in another block.
+        // Once a removed block waits after the Revised element holding e, later pieces go after
+        // it too, or they would come out ahead of it.
+        if (e != kNone && wholeAfter_.count(al_.matchA[e])) {
+            if (f != kNone) return Attach(out_.beforeAtom[std::uint32_t(al_.matchA[f])], piece);
+            return Attach(out_.afterNode[wholeAfter_[al_.matchA[e]]], piece);
+        }
         if (sameBlock(e)) return Attach(out_.afterAtom[std::uint32_t(al_.matchA[e])], piece);
         if (sameBlock(f)) return Attach(out_.beforeAtom[std::uint32_t(al_.matchA[f])], piece);
         if (f != kNone && Inside(f, block))
@@ -125,14 +131,23 @@ class Placer {
         const auto [first, end] = RangeA(whole);
         const std::int64_t f = nextEq_[end];
         if (f != kNone && Inside(f, parent)) {
-            if (const Node* s = Sibling(al_.matchA[f], parent, true)) {
+            const std::int64_t bf = al_.matchA[f];
+            // Pieces of the same gap already waiting inside, before f, must stay ahead of this
+            // one: it then goes inline as well.
+            if (out_.beforeAtom.count(std::uint32_t(bf))) return false;
+            const Node* s = wholeBefore_.count(bf) ? wholeBefore_[bf] : Sibling(bf, parent, true);
+            if (s) {
+                wholeBefore_[bf] = s;
                 out_.beforeNode[s].push_back({first, end, whole});
                 return true;
             }
         }
         const std::int64_t e = first > 0 ? prevEq_[first] : kNone;
         if (e != kNone && Inside(e, parent)) {
-            if (const Node* s = Sibling(al_.matchA[e], parent, false)) {
+            const std::int64_t be = al_.matchA[e];
+            const Node* s = wholeAfter_.count(be) ? wholeAfter_[be] : Sibling(be, parent, false);
+            if (s) {
+                wholeAfter_[be] = s;
                 out_.afterNode[s].push_back({first, end, whole});
                 return true;
             }
@@ -146,6 +161,8 @@ class Placer {
     std::vector<std::int64_t> prevEq_; // nearest equal content atom before each atom
     std::vector<std::int64_t> nextEq_; // nearest at or after each index (index n: none)
     std::size_t copiedUntil_ = 0;
+    // Revised atom -> the element that removed blocks of its gap are written before or after.
+    std::unordered_map<std::int64_t, const Node*> wholeBefore_, wholeAfter_;
     Placement out_;
 };
 

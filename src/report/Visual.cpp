@@ -77,8 +77,10 @@ class Merger {
         }
         AppendStartTag(out_, *n, pb_.base);
         if (IsVoid(*n)) return;
+        links_ += n->Is(Tag::A);
         for (const Node* c = n->firstChild; c; c = c->next)
             EmitNode(c);
+        links_ -= n->Is(Tag::A);
         AppendEndTag(out_, *n);
     }
 
@@ -93,7 +95,7 @@ class Merger {
         const std::uint32_t j = atomsB_.range.at(n).first;
         EmitPieces(place_.beforeAtom, j);
         if (al_.matchB[j] == kNoMatch) {
-            w_.Open(Mark::Inserted);
+            w_.Open(Mark::Inserted, {}, links_ == 0);
             WriteAtomElement(*n, pb_.base);
             w_.Close(Mark::Inserted);
         } else {
@@ -127,7 +129,7 @@ class Merger {
             AppendEscapedText(out_, gap);
             EmitPieces(place_.beforeAtom, j);
             if (al_.matchB[j] == kNoMatch) {
-                w_.Open(Mark::Inserted);
+                w_.Open(Mark::Inserted, {}, links_ == 0);
                 inserting = true;
                 AppendEscapedText(out_, word);
             } else {
@@ -153,7 +155,7 @@ class Merger {
             AppendEscapedText(out_, word);
             return;
         }
-        w_.Open(Mark::Changed, change);
+        w_.Open(Mark::Changed, change, links_ == 0);
         AppendEscapedText(out_, word);
         w_.Close(Mark::Changed);
     }
@@ -172,7 +174,7 @@ class Merger {
             if (atom.kind == AtomKind::Boundary) continue;
             if (!open) {
                 if (SpaceBefore(atom)) out_ += ' ';
-                w_.Open(Mark::Deleted);
+                w_.Open(Mark::Deleted, {}, links_ == 0);
                 open = true;
             } else if (SpaceBefore(atom) || (prev && prev->node != atom.node)) {
                 out_ += ' ';
@@ -206,7 +208,7 @@ class Merger {
                 AppendEscapedText(out_, n->data);
                 return;
             }
-            w_.Open(Mark::Deleted);
+            w_.Open(Mark::Deleted, {}, links_ == 0);
             AppendEscapedText(out_, n->data);
             w_.Close(Mark::Deleted);
             return;
@@ -218,7 +220,7 @@ class Merger {
         case Role::Placeholder:
         case Role::Replaced:
         case Role::Image:
-            w_.Open(Mark::Deleted);
+            w_.Open(Mark::Deleted, {}, links_ == 0);
             WriteAtomElement(*n, pa_.base);
             w_.Close(Mark::Deleted);
             return;
@@ -227,8 +229,10 @@ class Merger {
         }
         AppendStartTag(out_, *n, pa_.base);
         if (IsVoid(*n)) return;
+        links_ += n->Is(Tag::A);
         for (const Node* c = n->firstChild; c; c = c->next)
             EmitCopy(c);
+        links_ -= n->Is(Tag::A);
         AppendEndTag(out_, *n);
     }
 
@@ -241,6 +245,7 @@ class Merger {
     AtomAlignment al_;
     Placement place_;
     FormattingCache fmtA_, fmtB_;
+    int links_ = 0; // open links around what is written now
 };
 
 std::string KeptHead(const VisualPage& page) {
