@@ -2,6 +2,7 @@
 // the page scrolled to each, searches without wrapping, and lets nothing in the page run or
 // reach out on its own.
 #include "results/report/ReportView.h"
+#include "results/report/DiffReportControl.h"
 #include "results/report/ReportPage.h"
 #include "results/report/WebEngineProcess.h"
 #include "support/TempDir.h"
@@ -162,6 +163,51 @@ TEST_F(ReportViewTest, WebImagesLoadOnlyWhenAllowed) {
     ASSERT_TRUE(view.ShowReport(Write(html), true));
     Pause(700);
     EXPECT_GE(requests, 1);
+}
+
+// The control as the window drives it: the engine runs while events are processed, and its
+// code and page arrive together.
+class DiffReportControlTest : public ::testing::Test {
+  protected:
+    int Run(const std::string& a, const std::string& b) {
+        control.SetDiffOptions(true, true, false, false, false, 0, 1);
+        control.SetOriginalSource(a);
+        control.SetRevisedSource(b);
+        control.SetShowNumbers(true);
+        control.SetCompareKind(2);
+        control.StartCompare();
+        while (!control.IsDone())
+            QApplication::processEvents(QEventLoop::AllEvents, 20);
+        return control.GetResult();
+    }
+    test::TempDir dir;
+    DiffReportControl control;
+};
+
+TEST_F(DiffReportControlTest, ShowsTheEnginesPageWithItsDifferences) {
+    const auto a = dir.Write("a.html", "<p>The quick brown fox.</p><p>Stays.</p><p>Old end.</p>");
+    const auto b = dir.Write("b.html", "<p>The quick red fox.</p><p>Stays.</p><p>New end.</p>");
+    ASSERT_EQ(Run(a, b), 0);
+    EXPECT_EQ(control.DifferenceCount(), 2);
+    control.GoToLastDifference();
+    EXPECT_EQ(control.CurrentDifference(), 1);
+    EXPECT_TRUE(control.FindText("quick"));
+    const std::string saved = dir.Path() + "saved.html";
+    ASSERT_TRUE(control.SaveReport(saved));
+    std::ostringstream bytes;
+    bytes << std::ifstream(saved).rdbuf();
+    EXPECT_NE(bytes.str().find("<del"), std::string::npos);
+    EXPECT_EQ(bytes.str().find("<script"), std::string::npos);
+}
+
+TEST_F(DiffReportControlTest, AnswersIdenticalAndUnreadableWithTheirCodes) {
+    const auto a = dir.Write("a.html", "<p>Same.</p>");
+    const auto b = dir.Write("b.html", "<p>Same.</p>");
+    EXPECT_EQ(Run(a, b), 1);
+    EXPECT_EQ(control.DifferenceCount(), 0);
+    EXPECT_EQ(Run(dir.Path() + "missing.html", b), 5);
+    EXPECT_FALSE(control.HasReport());
+    EXPECT_EQ(Run(a, dir.Path() + "missing.html"), 6);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ class ReportView : public QWidget {
     // Shows the report in `file` and waits for it while the window's events run. `allowWeb`
     // lets the page's images and styles come from the web (an input was a web address).
     bool ShowReport(const std::string& file, bool allowWeb);
-    void ClearReport();
+    virtual void ClearReport();
     bool HasReport() const { return !shownFile_.empty(); }
     // Writes the shown report to `path` in one step: a reader never sees half a file.
     bool SaveReport(const std::string& path) const;
