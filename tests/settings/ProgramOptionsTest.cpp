@@ -179,14 +179,16 @@ TEST_F(ProgramOptions, AnyOtherEnginePreferenceMeansWordFirst) {
     EXPECT_TRUE(HasLine("ExtractionEnginePrefs=MSWordInternal"));
 }
 
-TEST_F(ProgramOptions, LettersInWidthStopTheReadUnlessWordWidthHasLettersToo) {
+// The failure is reported, but the keys after it are still read, so a save loses nothing.
+TEST_F(ProgramOptions, LettersInWidthAreReportedAndTheLaterKeysStillRead) {
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordSaveAsFormat=5\r\n"
          "[Miscellaneous]\r\nHTMLEditorFileSpec=/usr/bin/gedit\r\n");
     ExpectReadFailure(err::TypeMismatch);
     EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 79);
-    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 2);
-    EXPECT_EQ(gTextWithLayoutConverterPath, "");
-    EXPECT_EQ(gHTMLEditorFileSpec, "");
+    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 5);
+    EXPECT_EQ(gTextWithLayoutConverterPath,
+              "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
+    EXPECT_EQ(gHTMLEditorFileSpec, "/usr/bin/gedit");
 
     Prompts->Boxes.clear();
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordMaxNumCharsPerLine=x\r\n"
@@ -194,6 +196,14 @@ TEST_F(ProgramOptions, LettersInWidthStopTheReadUnlessWordWidthHasLettersToo) {
     EXPECT_TRUE(Prompts->Boxes.empty());
     EXPECT_EQ(gExtractionOptions->MSWordMaxNumCharsPerLine, 79);
     EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 5);
+}
+
+// Two bad values give one box, not a cascade.
+TEST_F(ProgramOptions, SeveralBadValuesGiveOneBox) {
+    Read("[Text Extraction]\r\nMaxNumCharsPerLine=1e30\r\nMSWordSaveAsFormat=1e30\r\n"
+         "[Miscellaneous]\r\nHTMLEditorFileSpec=kate\r\n");
+    EXPECT_EQ(Prompts->Boxes.size(), 1u);
+    EXPECT_EQ(gHTMLEditorFileSpec, "kate");
 }
 
 TEST_F(ProgramOptions, WordWidthFollowsInternalWidth) {
