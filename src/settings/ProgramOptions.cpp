@@ -4,10 +4,12 @@
 #include "frame/ErrorReporter.h"
 #include "frame/Globals.h"
 #include "frame/RuntimeError.h"
+#include "settings/AtomicWrite.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFile.h"
 #include "settings/IniFileName.h"
 #include "settings/NumericText.h"
+#include "settings/ProfileFile.h"
 
 #include <charconv>
 #include <span>
@@ -232,6 +234,8 @@ void SaveTextExtractionSection(CIniFile& ini, const clsExtractionOptions& e) {
 void ReadProgramOptionsFromIniFile(OptionsWindow& window) {
     try {
         RequireOptionObjects();
+        // A save killed mid-write leaves its temporary file; it is never finished, so it goes.
+        RemoveStaleTemporaries(gAppPath + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
         KeyGuard guard;
@@ -248,6 +252,8 @@ void ReadProgramOptionsFromIniFile(OptionsWindow& window) {
 void SaveProgramOptionsToIniFile(OptionsWindow& window) {
     try {
         RequireOptionObjects();
+        // Every key in one rewrite: a kill leaves the old settings or the new, never a mix.
+        profile::WriteBatch batch(gAppPath + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
         SaveCompareSection(ini, *gViewOptions);
