@@ -58,6 +58,16 @@ std::string ComposeErrorText(const std::string& Location, const ErrorInfo& e) {
     return text;
 }
 
+bool AppendErrorDetail(const std::string& Location, const ErrorInfo& error,
+                       const std::string& Detail) {
+    try {
+        AppendDetailRecord(ComposeErrorText(Location, error), Detail);
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
 void ReportUnexpectedError(const std::string& Location, const std::string& Detail) {
     ReportUnexpectedError(Location, Detail, CurrentErrorInfo());
 }

@@ -11,6 +11,11 @@ void ReportUnexpectedError(const std::string& Location, const std::string& Detai
 void ReportUnexpectedError(const std::string& Location, const std::string& Detail,
                            const ErrorInfo& error);
 
+// Appends a record to ERR_DETAIL.TXT, in the reporter's layout, without a box: for causes that
+// the user's message does not name. False where the file cannot be written.
+bool AppendErrorDetail(const std::string& Location, const ErrorInfo& error,
+                       const std::string& Detail);
+
 // The system's text for an errno value, or "Error (n) not defined.".
 std::string GetAPIErrorText(long errorNumber);
 

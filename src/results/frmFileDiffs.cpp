@@ -7,6 +7,7 @@
 #include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
+#include "intake/download/Download.h"
 #include "results/Commands.h"
 #include "results/DiffBarView.h"
 #include "results/FlexGridView.h"
@@ -19,9 +20,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QTextEdit>
+#include <QTimer>
 #include <QToolBar>
 #include <filesystem>
 
@@ -31,6 +34,22 @@ namespace {
 QString Q(const std::string& s) {
     return QString::fromStdString(s);
 }
+
+// Esc, wherever the focus is, cancels a running download; at any other time it is left alone.
+class DownloadCancelKey : public QObject {
+  public:
+    explicit DownloadCancelKey(QObject* owner) : QObject(owner) {}
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress && DownloadInProgress() &&
+            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+            CancelDownload();
+            return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 QComboBox* MakeFileBox(const QString& name, QWidget* parent) {
     auto* box = new QComboBox(parent);
@@ -71,6 +90,7 @@ frmFileDiffs::frmFileDiffs(QWidget* parent) : QMainWindow(parent) {
     ConnectCommands();
     ConnectGridEvents();
     SizeToDesign();
+    QApplication::instance()->installEventFilter(new DownloadCancelKey(this));
 }
 
 // The views go first: the grids they show are members, gone before the base class's children.
@@ -141,6 +161,14 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
 }
 
 void frmFileDiffs::closeEvent(QCloseEvent* e) {
+    // Closing during a download cancels it as a failed one; the window closes once the run has
+    // let go of it, never under a comparison that is still using it.
+    if (DownloadInProgress()) {
+        CancelDownload();
+        e->ignore();
+        QTimer::singleShot(100, this, [this] { close(); });
+        return;
+    }
     Form_Unload();
     e->accept();
 }

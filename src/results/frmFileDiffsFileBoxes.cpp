@@ -1,6 +1,7 @@
 // The two file boxes: their lists of recent inputs, drops, and the rule that results never
 // stand beside a changed path.
 #include "dialogs/AutoCompletePath.h"
+#include "dialogs/PathCompletion.h"
 #include "frame/ErrorReporter.h"
 #include "intake/frmSelectFile.h"
 #include "results/frmFileDiffs.h"
@@ -83,6 +84,8 @@ void frmFileDiffs::SelectFile(Side side) {
             side == Side::Original ? "Select Original HTML file" : "Select Revised HTML file";
         gSelectedPath.clear();
         frmSelectFile dialogue(this);
+        // The location box completes paths as the file boxes do.
+        if (auto* path = dialogue.findChild<QLineEdit*>("txtPathURL")) AttachPathCompletion(*path);
         ShowModal(dialogue);
         if (gSelectedPath.empty()) return;
         FileBox(side)->setEditText(QString::fromStdString(gSelectedPath));

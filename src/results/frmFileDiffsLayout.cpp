@@ -153,8 +153,12 @@ void frmFileDiffs::ApplyNewFont(const std::string& FontName, int FontSize, bool 
 }
 
 bool frmFileDiffs::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress &&
-        (watched == cboOriginalFile->lineEdit() || watched == cboRevisedFile->lineEdit())) {
+    // With the focus on a file box the box gets the keys first and hands them to its editor
+    // without a filter seeing them there, so both are watched for path completion.
+    const bool fileBox = watched == cboOriginalFile || watched == cboRevisedFile ||
+                         watched == cboOriginalFile->lineEdit() ||
+                         watched == cboRevisedFile->lineEdit();
+    if (event->type() == QEvent::KeyPress && fileBox) {
         const QString text = static_cast<QKeyEvent*>(event)->text();
         modAutoCompletePath::KeyPress(text.size() == 1 ? text[0].unicode() : 0);
     }

@@ -9,4 +9,8 @@ namespace orvane {
 // through. Returns false, leaving the target untouched and no temporary file behind, on failure.
 bool WriteFileAtomically(const std::string& path, const std::string& bytes);
 
+// Removes the temporary files that WriteFileAtomically left beside path when its process was
+// killed mid-write (their writer is no longer running). Returns how many were removed.
+int RemoveStaleTemporaries(const std::string& path);
+
 } // namespace orvane

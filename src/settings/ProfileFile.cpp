@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <map>
 #include <optional>
 #include <string_view>
 #include <unistd.h>
@@ -68,6 +69,39 @@ std::optional<std::string> ReadWholeFile(const std::string& path) {
     }
     close(fd);
     return bytes;
+}
+
+struct PendingFile {
+    std::optional<std::string> OnDisk; // as read when the batch opened; nullopt: unreadable
+    std::string Bytes;                 // what the batch will write
+};
+
+std::map<std::string, PendingFile>& Batches() {
+    static std::map<std::string, PendingFile> batches;
+    return batches;
+}
+
+std::map<std::string, std::size_t>& Rewrites() {
+    static std::map<std::string, std::size_t> rewrites;
+    return rewrites;
+}
+
+// The file as the next read or write should see it: a batch's copy where one is open.
+std::optional<std::string> CurrentBytes(const std::string& path) {
+    const auto it = Batches().find(path);
+    if (it == Batches().end()) return ReadWholeFile(path);
+    if (!it->second.OnDisk) return std::nullopt;
+    return it->second.Bytes;
+}
+
+bool Replace(const std::string& path, const std::string& bytes) {
+    const auto it = Batches().find(path);
+    if (it != Batches().end()) {
+        it->second.Bytes = bytes;
+        return true;
+    }
+    ++Rewrites()[path];
+    return WriteFileAtomically(path, bytes);
 }
 
 // Lines without their LF or CRLF; a final line without an end counts as a line.
@@ -171,7 +205,7 @@ std::size_t GetPrivateProfileString(const std::string& Section, const std::strin
                                     std::size_t Size, const std::string& FileName) {
     ReturnedString.clear();
     if (Size == 0) return 0;
-    const auto bytes = ReadWholeFile(CString(FileName));
+    const auto bytes = CurrentBytes(CString(FileName));
     const auto lines = LinesOfFile(bytes.value_or(""));
     const std::string section = CString(Section), key = CString(Key);
     const Place p = Locate(lines, Trim(section), Trim(key));
@@ -202,7 +236,7 @@ bool WritePrivateProfileString(const std::string& Section, const std::string& Ke
     const std::string section(Trim(CString(Section))), key(Trim(CString(Key)));
     if (!StorableSection(section) || !StorableKey(key)) return false;
     const std::string path = CString(FileName);
-    const auto bytes = ReadWholeFile(path);
+    const auto bytes = CurrentBytes(path);
     if (!bytes) return false; // never replace a file that could not be read
     auto lines = LinesOfFile(*bytes);
     const std::string value = StorableValue(CString(Value));
@@ -217,7 +251,27 @@ bool WritePrivateProfileString(const std::string& Section, const std::string& Ke
     }
     const std::string out = JoinLines(lines, bytes->starts_with(kUtf8Bom));
     if (out == *bytes) return true;
-    return WriteFileAtomically(path, out);
+    return Replace(path, out);
+}
+
+WriteBatch::WriteBatch(const std::string& FileName) : path_(CString(FileName)) {
+    if (Batches().contains(path_)) return;
+    PendingFile pending{ReadWholeFile(path_), {}};
+    pending.Bytes = pending.OnDisk.value_or("");
+    Batches().emplace(path_, std::move(pending));
+    owner_ = true;
+}
+
+WriteBatch::~WriteBatch() {
+    if (!owner_) return;
+    const auto node = Batches().extract(path_);
+    const PendingFile& pending = node.mapped();
+    if (pending.OnDisk && pending.Bytes != *pending.OnDisk) Replace(path_, pending.Bytes);
+}
+
+std::size_t RewriteCount(const std::string& FileName) {
+    const auto it = Rewrites().find(CString(FileName));
+    return it == Rewrites().end() ? 0 : it->second;
 }
 
 } // namespace orvane::profile

@@ -34,4 +34,23 @@ std::int32_t GetPrivateProfileInt(const std::string& Section, const std::string&
 bool WritePrivateProfileString(const std::string& Section, const std::string& Key,
                                const std::string& Value, const std::string& FileName);
 
+// While a batch for a file is open, writes to it change a copy in memory and reads see that copy;
+// the batch's end replaces the file once, atomically. A save of many keys is then one step: a
+// kill leaves the old file or the new one, never a mix. Batches of one file do not nest: an inner
+// one leaves the work to the outer. User-interface thread only, like the writes themselves.
+class WriteBatch {
+  public:
+    explicit WriteBatch(const std::string& FileName);
+    ~WriteBatch();
+    WriteBatch(const WriteBatch&) = delete;
+    WriteBatch& operator=(const WriteBatch&) = delete;
+
+  private:
+    std::string path_;
+    bool owner_ = false;
+};
+
+// The number of times a file has been replaced by this process, for tests of the batch.
+std::size_t RewriteCount(const std::string& FileName);
+
 } // namespace orvane::profile

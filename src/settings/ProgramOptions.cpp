@@ -4,10 +4,12 @@
 #include "frame/ErrorReporter.h"
 #include "frame/Globals.h"
 #include "frame/RuntimeError.h"
+#include "settings/AtomicWrite.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFile.h"
 #include "settings/IniFileName.h"
 #include "settings/NumericText.h"
+#include "settings/ProfileFile.h"
 
 #include <charconv>
 #include <span>
@@ -66,6 +68,23 @@ void WriteWord(CIniFile& ini, const char* key, std::span<const WordChoice> words
         if (value == w.Value) Write(ini, key, w.Word);
 }
 
+// One bad value is reported once, and the keys after it are read all the same: stopping at the
+// first failure would let the next save write defaults over everything the user had set.
+class KeyGuard {
+  public:
+    template <class Read> void operator()(Read read) {
+        try {
+            read();
+        } catch (...) {
+            if (!reported_) ReportUnexpectedError("modIniFile.ReadProgramOptionsFromIniFile", "");
+            reported_ = true;
+        }
+    }
+
+  private:
+    bool reported_ = false;
+};
+
 void ReadCheckedOption(CIniFile& ini, OptionsWindow& window, const char* key, const char* def,
                        bool& field, const char* menu) {
     field = ReadBoolean(ini, key, def);
@@ -100,7 +119,7 @@ void ReadCompareSection(CIniFile& ini, OptionsWindow& window, cViewFileDiffsOpti
                       v.ShowInternetSourceReminder, "mnuOptionsShowInternetSourceReminder");
 }
 
-void ReadGridsSection(CIniFile& ini, OptionsWindow& window) {
+void ReadGridsSection(CIniFile& ini, OptionsWindow& window, KeyGuard& guard) {
     ini.Section("Grids");
     const bool lines = ReadBoolean(ini, "ShowGridLines", "True");
     window.SetMenuChecked("mnuOptionsShowGridLines", -1, lines);
@@ -112,12 +131,16 @@ void ReadGridsSection(CIniFile& ini, OptionsWindow& window) {
     const bool italic = ReadBoolean(ini, "FontItalic", "False");
     for (const char* grid : kGrids)
         window.SetGridFontItalic(grid, italic);
-    const std::string name = ReadText(ini, "FontName", "Courier New");
-    for (const char* grid : kGrids)
-        window.SetGridFontName(grid, name);
-    const double size = LeadingNumber(ReadText(ini, "FontSize", "8"));
-    for (const char* grid : kGrids)
-        window.SetGridFontSize(grid, size);
+    guard([&] {
+        const std::string name = ReadText(ini, "FontName", "Courier New");
+        for (const char* grid : kGrids)
+            window.SetGridFontName(grid, name);
+    });
+    guard([&] {
+        const double size = LeadingNumber(ReadText(ini, "FontSize", "8"));
+        for (const char* grid : kGrids)
+            window.SetGridFontSize(grid, size);
+    });
 }
 
 void ReadFormSection(CIniFile& ini, OptionsWindow& window) {
@@ -126,7 +149,7 @@ void ReadFormSection(CIniFile& ini, OptionsWindow& window) {
                           ReadBoolean(ini, "PaneTooltips", "False"));
 }
 
-void ReadTextExtractionSection(CIniFile& ini, clsExtractionOptions& e) {
+void ReadTextExtractionSection(CIniFile& ini, clsExtractionOptions& e, KeyGuard& guard) {
     ini.Section("Text Extraction");
     e.EnginePreference =
         ReadText(ini, "ExtractionEnginePrefs", kInternalFirst) == kInternalFirst ? 0 : 1;
@@ -134,14 +157,16 @@ void ReadTextExtractionSection(CIniFile& ini, clsExtractionOptions& e) {
     e.SingleLineParagraph = ReadBoolean(ini, "SingleLineParagraph", "False");
     e.LimitLineLength = ReadBoolean(ini, "LimitLineLength", "False");
     const std::string maxChars = ReadText(ini, "MaxNumCharsPerLine", "79");
-    e.MaxNumCharsPerLine = IsNumeric(maxChars) ? ToLongRounded(maxChars) : 79;
+    guard([&] { e.MaxNumCharsPerLine = IsNumeric(maxChars) ? ToLongRounded(maxChars) : 79; });
     e.MSWordLimitLineLength = ReadBoolean(ini, "MSWordLimitLineLength", "False");
     // Kept as it always was: the test looks at the Word key, the number comes from the text of
     // MaxNumCharsPerLine, and fails (Type mismatch) when that text is not numeric.
     const std::string wordMaxChars = ReadText(ini, "MSWordMaxNumCharsPerLine", "79");
-    e.MSWordMaxNumCharsPerLine = IsNumeric(wordMaxChars) ? ToLongRounded(maxChars) : 79;
+    guard([&] {
+        e.MSWordMaxNumCharsPerLine = IsNumeric(wordMaxChars) ? ToLongRounded(maxChars) : 79;
+    });
     const std::string saveAs = ReadText(ini, "MSWordSaveAsFormat", "2");
-    e.MSWordSaveAsFormat = IsNumeric(saveAs) ? ToLongRounded(saveAs) : 2;
+    guard([&] { e.MSWordSaveAsFormat = IsNumeric(saveAs) ? ToLongRounded(saveAs) : 2; });
     gTextWithLayoutConverterPath =
         ReadText(ini, "TextWithLayoutConverterPath",
                  "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
@@ -209,12 +234,15 @@ void SaveTextExtractionSection(CIniFile& ini, const clsExtractionOptions& e) {
 void ReadProgramOptionsFromIniFile(OptionsWindow& window) {
     try {
         RequireOptionObjects();
+        // A save killed mid-write leaves its temporary file; it is never finished, so it goes.
+        RemoveStaleTemporaries(gAppPath + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
+        KeyGuard guard;
         ReadCompareSection(ini, window, *gViewOptions);
-        ReadGridsSection(ini, window);
+        ReadGridsSection(ini, window, guard);
         ReadFormSection(ini, window);
-        ReadTextExtractionSection(ini, *gExtractionOptions);
+        ReadTextExtractionSection(ini, *gExtractionOptions, guard);
         ReadMiscellaneousSection(ini);
     } catch (...) {
         ReportUnexpectedError("modIniFile.ReadProgramOptionsFromIniFile", "");
@@ -224,6 +252,8 @@ void ReadProgramOptionsFromIniFile(OptionsWindow& window) {
 void SaveProgramOptionsToIniFile(OptionsWindow& window) {
     try {
         RequireOptionObjects();
+        // Every key in one rewrite: a kill leaves the old settings or the new, never a mix.
+        profile::WriteBatch batch(gAppPath + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
         SaveCompareSection(ini, *gViewOptions);

@@ -2,6 +2,7 @@
 // A fresh target file, a local server and short limits, so that every way a fetch can end is
 // reached in a second or two.
 #include "HttpTestServer.h"
+#include "frame/Globals.h"
 #include "intake/download/Download.h"
 #include "support/TempDir.h"
 
@@ -41,6 +42,7 @@ class DownloadTest : public ::testing::Test {
         // A proxy in the environment must not stand between the test and its own server.
         ::setenv("no_proxy", "127.0.0.1,localhost", 1);
         target = dir.Write("htm1A2B.tmp", "");
+        gAppPath = dir.Path(); // where a failure's ERR_DETAIL.TXT record goes
     }
     DownloadResult Fetch(const std::string& url) { return FetchToFile(url, target, limits); }
     DownloadResult FetchPath(const std::string& path) { return Fetch(server.Url(path)); }

@@ -50,13 +50,18 @@ TEST_F(HttpDownloadTest, PageArrivesByteForByteAndReplacesWhatWasThere) {
     EXPECT_EQ(ReadWhole(target), kPage);
 }
 
+// No box: the cause of a failure goes to ERR_DETAIL.TXT only.
 TEST_F(HttpDownloadTest, ProgramEntryUsesTheProgramLimitsAndReportsNothing) {
     ScopedRecordingPrompter prompter;
     EXPECT_TRUE(modOrvane::DownloadWebPage(server.Url("/page"), target));
     EXPECT_EQ(ReadWhole(target), kPage);
-    EXPECT_FALSE(modOrvane::DownloadWebPage(server.Url("/missing"), target));
+    EXPECT_TRUE(modOrvane::DownloadWebPage(server.Url("/missing"), target)); // the 404 page
+    EXPECT_FALSE(Exists(dir.Path() + "ERR_DETAIL.TXT"));
     EXPECT_FALSE(modOrvane::DownloadWebPage("ftp://127.0.0.1/page", target));
     EXPECT_TRUE(prompter->boxes.empty());
+    const std::string detail = ReadWhole(dir.Path() + "ERR_DETAIL.TXT");
+    EXPECT_NE(detail.find("refused scheme"), std::string::npos) << detail;
+    EXPECT_NE(detail.find("Address: ftp://127.0.0.1/page\r\n"), std::string::npos) << detail;
 }
 
 TEST_F(HttpDownloadTest, ProgramLimitsAreTheDocumentedOnes) {
@@ -100,8 +105,8 @@ TEST_F(HttpDownloadTest, RedirectToAnotherSchemeIsRefused) {
     }
 }
 
-// Comparing two error pages would report identical files: an error status is a failed download.
-TEST_F(HttpDownloadTest, ErrorStatusIsAFailure) {
+// What the server sends is the page, whatever the status: an error page is compared too.
+TEST_F(HttpDownloadTest, ErrorStatusPageIsKept) {
     for (int status : {400, 403, 404, 410, 500, 503}) {
         SCOPED_TRACE(status);
         target = dir.Write("htm1A2B.tmp", "");
@@ -109,9 +114,9 @@ TEST_F(HttpDownloadTest, ErrorStatusIsAFailure) {
             c.Send(Response(status, "<html>Error page</html>"));
         });
         const DownloadResult result = FetchPath("/error");
-        EXPECT_EQ(result.Failure, DownloadFailure::HttpError);
+        EXPECT_TRUE(result.Ok()) << result.Reason;
         EXPECT_EQ(result.HttpStatus, status);
-        EXPECT_FALSE(Exists(target));
+        EXPECT_EQ(ReadWhole(target), "<html>Error page</html>");
     }
 }
 

@@ -6,7 +6,13 @@
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFileName.h"
 
+#include "settings/ProfileFile.h"
+
+#include <algorithm>
+#include <csignal>
 #include <map>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace orvane::test {
 namespace {
@@ -179,14 +185,16 @@ TEST_F(ProgramOptions, AnyOtherEnginePreferenceMeansWordFirst) {
     EXPECT_TRUE(HasLine("ExtractionEnginePrefs=MSWordInternal"));
 }
 
-TEST_F(ProgramOptions, LettersInWidthStopTheReadUnlessWordWidthHasLettersToo) {
+// The failure is reported, but the keys after it are still read, so a save loses nothing.
+TEST_F(ProgramOptions, LettersInWidthAreReportedAndTheLaterKeysStillRead) {
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordSaveAsFormat=5\r\n"
          "[Miscellaneous]\r\nHTMLEditorFileSpec=/usr/bin/gedit\r\n");
     ExpectReadFailure(err::TypeMismatch);
     EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 79);
-    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 2);
-    EXPECT_EQ(gTextWithLayoutConverterPath, "");
-    EXPECT_EQ(gHTMLEditorFileSpec, "");
+    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 5);
+    EXPECT_EQ(gTextWithLayoutConverterPath,
+              "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
+    EXPECT_EQ(gHTMLEditorFileSpec, "/usr/bin/gedit");
 
     Prompts->Boxes.clear();
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordMaxNumCharsPerLine=x\r\n"
@@ -194,6 +202,14 @@ TEST_F(ProgramOptions, LettersInWidthStopTheReadUnlessWordWidthHasLettersToo) {
     EXPECT_TRUE(Prompts->Boxes.empty());
     EXPECT_EQ(gExtractionOptions->MSWordMaxNumCharsPerLine, 79);
     EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 5);
+}
+
+// Two bad values give one box, not a cascade.
+TEST_F(ProgramOptions, SeveralBadValuesGiveOneBox) {
+    Read("[Text Extraction]\r\nMaxNumCharsPerLine=1e30\r\nMSWordSaveAsFormat=1e30\r\n"
+         "[Miscellaneous]\r\nHTMLEditorFileSpec=kate\r\n");
+    EXPECT_EQ(Prompts->Boxes.size(), 1u);
+    EXPECT_EQ(gHTMLEditorFileSpec, "kate");
 }
 
 TEST_F(ProgramOptions, WordWidthFollowsInternalWidth) {
@@ -289,6 +305,65 @@ TEST(IniFileName, IsExecutableBaseNameWithIni) {
     SetProgramIniFileName("other.ini");
     EXPECT_EQ(ProgramIniFileName(), "other.ini");
     SetProgramIniFileName("");
+}
+
+// A window whose grid font cannot be asked for: the process dies half-way through a save, after
+// the Compare section and before the rest, as a kill or a power cut would end it.
+class DyingWindow : public FakeWindow {
+  public:
+    std::string GridFontName(const std::string&) const override {
+        std::raise(SIGKILL);
+        return {};
+    }
+};
+
+TEST_F(ProgramOptions, ASaveIsOneRewriteOfTheWholeFile) {
+    Read(kDefaultFile);
+    gViewOptions->IgnoreCase = true;
+    gExtractionOptions->MaxNumCharsPerLine = 100;
+    gHTMLEditorFileSpec = "kate";
+    const std::size_t before = profile::RewriteCount(PathOf("orvane.ini"));
+    Save();
+    EXPECT_EQ(profile::RewriteCount(PathOf("orvane.ini")), before + 1);
+    EXPECT_TRUE(HasLine("IgnoreCase=True") && HasLine("MaxNumCharsPerLine=100") &&
+                HasLine("HTMLEditorFileSpec=kate"));
+    EXPECT_EQ(FolderEntries(), std::vector<std::string>{"orvane.ini"});
+}
+
+TEST_F(ProgramOptions, AKillDuringASaveLeavesTheOldFileWhole) {
+    Read(kDefaultFile);
+    gViewOptions->IgnoreCase = true; // written before the kill, in the Compare section
+    gHTMLEditorFileSpec = "kate";    // written after it
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        DyingWindow dying;
+        dying.Fonts = Window.Fonts;
+        modIniFile::SaveProgramOptionsToIniFile(dying);
+        _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(ReadFile("orvane.ini"), kDefaultFile); // no mix of old and new values
+}
+
+TEST_F(ProgramOptions, TheNextStartRemovesAStaleTemporaryOfAKilledSave) {
+    const pid_t gone = fork(); // a process id that surely no longer runs
+    ASSERT_GE(gone, 0);
+    if (gone == 0) _exit(0);
+    ASSERT_EQ(waitpid(gone, nullptr, 0), gone);
+    const std::string stale = ".orvane.ini." + std::to_string(gone) + ".3.tmp";
+    const std::string living = ".orvane.ini." + std::to_string(getppid()) + ".0.tmp";
+    WriteFile(stale, std::string(1 << 20, 'x'));
+    WriteFile(living, "being written");
+    WriteFile(".orvane.ini.notes.tmp", "not ours");
+    WriteFile(".other.ini." + std::to_string(gone) + ".0.tmp", "another file's");
+    Read(kDefaultFile);
+    const auto entries = FolderEntries();
+    EXPECT_EQ(std::count(entries.begin(), entries.end(), stale), 0);
+    EXPECT_EQ(std::count(entries.begin(), entries.end(), living), 1);
+    EXPECT_EQ(entries.size(), 4u); // the settings file and the three that are not stale
 }
 
 } // namespace

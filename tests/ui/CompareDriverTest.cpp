@@ -1,6 +1,8 @@
 #include "tests/ui/DriverFixture.h"
 
 #include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace orvane::test {
 namespace {
@@ -24,6 +26,16 @@ class Refusals : public DriverTest, public ::testing::WithParamInterface<Refusal
         if (s == "@file") return dir.Write("page.html", "<p>x</p>\n");
         if (s == "@folder") return dir.Path().substr(0, dir.Path().size() - 1);
         if (s == "@missing") return dir.Path() + "missing.html";
+        if (s == "@fifo") {
+            const std::string fifo = dir.Path() + "x.html";
+            ::mkfifo(fifo.c_str(), 0600);
+            return fifo;
+        }
+        if (s == "@devzero") {
+            const std::string link = dir.Path() + "zero.html";
+            ::symlink("/dev/zero", link.c_str());
+            return link;
+        }
         return s;
     }
 };
@@ -67,6 +79,13 @@ INSTANTIATE_TEST_SUITE_P(
                       Refusal{"MissingRevised", "@file", "@missing", "File Does Not Exist",
                               "Revised file is not an existing file."},
                       Refusal{"FolderAsFile", "@folder", "@file", "File Does Not Exist",
+                              "Original file is not an existing file."},
+                      // reading a FIFO or a device would hang or grow without end
+                      Refusal{"FifoAsFile", "@file", "@fifo", "File Does Not Exist",
+                              "Revised file is not an existing file."},
+                      Refusal{"DeviceLinkAsFile", "@devzero", "@file", "File Does Not Exist",
+                              "Original file is not an existing file."},
+                      Refusal{"DeviceAsFile", "/dev/zero", "@file", "File Does Not Exist",
                               "Original file is not an existing file."},
                       // a bare host name is refused before any look at the disk
                       Refusal{"BareHostBeforeMissing", "wwwpage.html", "@missing",

@@ -3,6 +3,7 @@
 // different.
 #include "compare/StringDiffs.h"
 #include "compare/lcs/CodePoints.h"
+#include "frame/EngineCli.h"
 #include "frame/Globals.h"
 #include "frame/Prompter.h"
 
@@ -58,7 +59,14 @@ std::string Digits(const orvane::lcs::Marks& marks) {
 
 } // namespace
 
+constexpr char kUsage[] = "usage: linediffs FILE1 FILE2 [--word] [-i]\n"
+                          "  --word  compare words instead of characters\n"
+                          "  -i      ignore the case of letters\n"
+                          "Prints one line of marks per file: 1 common, 0 different.\n"
+                          "Exit status: 0 done, 1 an error box was shown, 2 trouble.\n";
+
 int main(int argc, char** argv) {
+    if (orvane::cli::WantsHelp(argc, argv)) return orvane::cli::PrintUsage(kUsage);
     std::string files[2];
     int fileCount = 0;
     bool word = false, ignoreCase = false;
@@ -74,13 +82,15 @@ int main(int argc, char** argv) {
             fileCount = 3;
     }
     if (fileCount != 2) {
-        std::cerr << "usage: linediffs FILE1 FILE2 [--word] [-i]\n";
-        return 2;
+        std::cerr << kUsage;
+        return orvane::cli::kTrouble;
     }
+    for (const std::string& file : files)
+        if (!orvane::cli::IsInputFile("linediffs", file)) return orvane::cli::kTrouble;
     std::u32string text1, text2;
     if (!ReadFirstLine(files[0], text1) || !ReadFirstLine(files[1], text2)) {
         std::cerr << "linediffs: cannot read " << files[0] << " or " << files[1] << "\n";
-        return 2;
+        return orvane::cli::kTrouble;
     }
     orvane::gAppPath = ProgramFolder();
     auto prompter = std::make_shared<StderrPrompter>();

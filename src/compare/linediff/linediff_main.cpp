@@ -1,6 +1,7 @@
 // linediff ORIGINAL REVISED [-i] [-w] [-a]: the differ from a shell. Prints the output lines as
 // the engine gives them and exits with its status (0 identical, 1 different, 2 trouble).
 #include "FileDiff.h"
+#include "frame/EngineCli.h"
 
 #include <cstdio>
 #include <string>
@@ -52,16 +53,21 @@ bool ParseArguments(int argc, char** argv, linediff::Options& options,
 } // namespace
 
 int main(int argc, char** argv) {
+    if (orvane::cli::WantsHelp(argc, argv)) return orvane::cli::PrintUsage(kUsage);
     linediff::Options options;
     std::vector<std::string> paths;
     if (!ParseArguments(argc, argv, options, paths)) {
         std::fputs(kUsage, stderr);
         return linediff::kTrouble;
     }
+    for (const std::string& path : paths)
+        if (!orvane::cli::IsInputFile("linediff", path)) return linediff::kTrouble;
     linediff::OutputLines out;
     linediff::Status status = linediff::CompareFiles(paths[0], paths[1], options, out);
     std::string_view text = out.Text();
-    bool written = text.empty() || std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
-    if (!written || std::fflush(stdout) != 0) return linediff::kTrouble;
+    // In trouble the engine's only line is the reason, which belongs with the other errors.
+    FILE* stream = status == linediff::kTrouble ? stderr : stdout;
+    bool written = text.empty() || std::fwrite(text.data(), 1, text.size(), stream) == text.size();
+    if (!written || std::fflush(stream) != 0) return linediff::kTrouble;
     return status;
 }

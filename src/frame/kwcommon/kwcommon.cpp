@@ -35,14 +35,15 @@ extern "C" {
 
 KW_EXPORT int PBFileExists(const char* path) {
     struct stat st;
-    return path && ::stat(path, &st) == 0 && !S_ISDIR(st.st_mode) ? 1 : 0;
+    // Only a regular file is an input: a device or FIFO would block or read without end.
+    return path && ::stat(path, &st) == 0 && S_ISREG(st.st_mode) ? 1 : 0;
 }
 
-// A second way of asking: the file can be opened by name (access), and is not a folder.
+// A second way of asking: the name can be reached (access), and is a regular file.
 KW_EXPORT int APIFileExists(const char* path) {
     if (!path || ::access(path, F_OK) != 0) return 0;
     struct stat st;
-    return ::lstat(path, &st) == 0 && !S_ISDIR(st.st_mode) ? 1 : 0;
+    return ::stat(path, &st) == 0 && S_ISREG(st.st_mode) ? 1 : 0;
 }
 
 KW_EXPORT int ReplaceExtension(const char* path, const char* extension, char* out, int outSize) {

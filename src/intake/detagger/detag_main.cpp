@@ -1,6 +1,7 @@
 // detag INPUT OUTPUT ["policy name=value"]...: runs the detagger engine on one file. Without
 // policies it sets the four that the program always sets. On failure it prints the error text
-// and exits 1.
+// to standard error and exits 1; an input that is not a regular file exits 2.
+#include "frame/EngineCli.h"
 #include "intake/Detagger.h"
 #include "intake/detagger/Convert.h"
 
@@ -21,17 +22,25 @@ const std::vector<Policy> kAlwaysSet = {
 };
 
 int Fail(int code) {
-    std::printf("%s\n", orvane::DetaggerErrorText(code).c_str());
+    std::fprintf(stderr, "detag: %s\n", orvane::DetaggerErrorText(code).c_str());
     return 1;
 }
+
+constexpr char kUsage[] =
+    "usage: detag INPUT OUTPUT [\"policy name=value\"]...\n"
+    "Writes the text of the HTML file INPUT to OUTPUT. Without policies the four that the\n"
+    "program always sets are used.\n"
+    "Exit status: 0 done, 1 the engine failed, 2 trouble with the arguments or the input.\n";
 
 } // namespace
 
 int main(int argc, char** argv) {
+    if (orvane::cli::WantsHelp(argc, argv)) return orvane::cli::PrintUsage(kUsage);
     if (argc < 3) {
-        std::fprintf(stderr, "usage: detag INPUT OUTPUT [\"policy name=value\"]...\n");
-        return 2;
+        std::fputs(kUsage, stderr);
+        return orvane::cli::kTrouble;
     }
+    if (!orvane::cli::IsInputFile("detag", argv[1])) return orvane::cli::kTrouble;
     std::vector<Policy> policies;
     for (int i = 3; i < argc; ++i) {
         const std::string arg = argv[i];

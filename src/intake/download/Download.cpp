@@ -2,14 +2,18 @@
 
 #include "frame/ErrorReporter.h"
 #include "frame/KWCommon.h"
+#include "frame/Prompter.h"
 #include "intake/download/TargetFile.h"
 
 #include <algorithm>
 #include <cctype>
+#include <chrono>
 #include <curl/curl.h>
+#include <exception>
 #include <memory>
 #include <mutex>
 #include <string_view>
+#include <thread>
 
 namespace orvane {
 namespace {
@@ -68,8 +72,8 @@ DownloadFailure Classify(CURLcode code, const TargetFile& target) {
         return DownloadFailure::Timeout;
     case CURLE_TOO_MANY_REDIRECTS:
         return DownloadFailure::TooManyRedirects;
-    case CURLE_HTTP_RETURNED_ERROR:
-        return DownloadFailure::HttpError;
+    case CURLE_ABORTED_BY_CALLBACK:
+        return DownloadFailure::Cancelled;
     case CURLE_FILESIZE_EXCEEDED:
         return DownloadFailure::TooLarge;
     case CURLE_PARTIAL_FILE:
@@ -99,6 +103,11 @@ std::size_t WatchHead(char* data, std::size_t size, std::size_t count, void* use
     return size * count;
 }
 
+int CheckCancel(void* user, curl_off_t, curl_off_t, curl_off_t, curl_off_t) {
+    const auto* cancel = static_cast<const std::atomic<bool>*>(user);
+    return cancel && cancel->load() ? 1 : 0;
+}
+
 void SetLimits(CURL* curl, const DownloadLimits& limits) {
     curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(curl, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
@@ -112,6 +121,10 @@ void SetLimits(CURL* curl, const DownloadLimits& limits) {
     curl_easy_setopt(curl, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limits.MaxBytes));
     curl_easy_setopt(curl, CURLOPT_SSL_VERIFYPEER, 1L);
     curl_easy_setopt(curl, CURLOPT_SSL_VERIFYHOST, 2L);
+    // Called about once a second even when no byte arrives, so a cancel ends a silent wait too.
+    curl_easy_setopt(curl, CURLOPT_NOPROGRESS, 0L);
+    curl_easy_setopt(curl, CURLOPT_XFERINFOFUNCTION, CheckCancel);
+    curl_easy_setopt(curl, CURLOPT_XFERINFODATA, const_cast<std::atomic<bool>*>(limits.Cancel));
 }
 
 void SetRequest(CURL* curl, const std::string& url, TargetFile& target, bool& headEnded,
@@ -119,7 +132,6 @@ void SetRequest(CURL* curl, const std::string& url, TargetFile& target, bool& he
     curl_easy_setopt(curl, CURLOPT_URL, url.c_str());
     curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, errors);
     curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(curl, CURLOPT_FAILONERROR, 1L);
     curl_easy_setopt(curl, CURLOPT_USERAGENT, kUserAgent);
     // Every encoding libcurl can decode; the byte cap counts decoded bytes, so a compressed bomb
     // stops at the cap too.
@@ -145,6 +157,7 @@ DownloadResult Fetch(const std::string& url, TargetFile& target, const DownloadL
     DownloadResult result;
     result.Failure = Classify(code, target);
     curl_easy_getinfo(curl.get(), CURLINFO_RESPONSE_CODE, &result.HttpStatus);
+    result.Code = code;
     if (!result.Ok()) {
         result.Reason = *errors ? errors : curl_easy_strerror(code);
     } else if (!headEnded) {
@@ -176,6 +189,86 @@ std::string MakeDownloadFileSpec() {
     return GetTempFileSpec("htm", extension, "");
 }
 
+namespace {
+
+std::atomic<bool> gCancelDownload{false};
+std::atomic<bool> gDownloadRunning{false};
+
+// Runs the fetch on its own thread and lets events run here until it ends. An error thrown by the
+// fetch is thrown again on this thread, where the caller's handler expects it.
+DownloadResult FetchWhileEventsRun(const std::string& Url, const std::string& Target,
+                                   DownloadLimits limits) {
+    gCancelDownload = false;
+    limits.Cancel = &gCancelDownload;
+    DownloadResult result;
+    std::exception_ptr error;
+    std::atomic<bool> done{false};
+    gDownloadRunning = true;
+    std::thread worker([&] {
+        try {
+            result = FetchToFile(Url, Target, limits);
+        } catch (...) {
+            error = std::current_exception();
+        }
+        done = true;
+    });
+    while (!done) {
+        DoEvents();
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    worker.join();
+    gDownloadRunning = false;
+    if (error) std::rethrow_exception(error);
+    return result;
+}
+
+constexpr long kDownloadFailed = 31; // "Transfer failed" in the toolkit's run-time numbers
+
+void RecordFailure(const std::string& Url, const DownloadResult& result) {
+    const std::string detail = "Address: " + Url + "\r\nCause: " + FailureWords(result.Failure) +
+                               "\r\nReported: " + result.Reason;
+    ErrorInfo error{kDownloadFailed, "Web page not downloaded: " + FailureWords(result.Failure), 0};
+    AppendErrorDetail("modOrvane.DownloadWebPage", error, detail);
+}
+
+} // namespace
+
+std::string FailureWords(DownloadFailure failure) {
+    switch (failure) {
+    case DownloadFailure::None:
+        return "none";
+    case DownloadFailure::Refused:
+        return "refused scheme (only http, https and file addresses are fetched)";
+    case DownloadFailure::Connect:
+        return "refused connection or unknown host";
+    case DownloadFailure::Timeout:
+        return "no answer in time";
+    case DownloadFailure::TooManyRedirects:
+        return "too many redirects";
+    case DownloadFailure::TooLarge:
+        return "too large";
+    case DownloadFailure::Incomplete:
+        return "the answer was cut short";
+    case DownloadFailure::LocalFile:
+        return "no readable local file at that address";
+    case DownloadFailure::Write:
+        return "the page could not be written to the disk";
+    case DownloadFailure::Cancelled:
+        return "cancelled by the user";
+    case DownloadFailure::Other:
+        break;
+    }
+    return "transfer failed";
+}
+
+void CancelDownload() {
+    gCancelDownload = true;
+}
+
+bool DownloadInProgress() {
+    return gDownloadRunning;
+}
+
 namespace modOrvane {
 
 bool DownloadWebPage(const std::string& Url, const std::string& TargetFile) {
@@ -185,7 +278,9 @@ bool DownloadWebPage(const std::string& Url, const std::string& TargetFile) {
 bool DownloadWebPage(const std::string& Url, const std::string& TargetFile,
                      const DownloadLimits& limits) {
     try {
-        return FetchToFile(Url, TargetFile, limits).Ok();
+        const DownloadResult result = FetchWhileEventsRun(Url, TargetFile, limits);
+        if (!result.Ok()) RecordFailure(Url, result);
+        return result.Ok();
     } catch (...) {
         ReportUnexpectedError("modOrvane.DownloadWebPage", "");
         return false;

@@ -1,0 +1,124 @@
+// The engines' command-line programs as a shell user meets them: --help, inputs that are not
+// regular files, and where the messages go.
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace orvane {
+namespace {
+
+struct EngineRun {
+    std::string out, err;
+    int status = -1;
+};
+
+std::string Slurp(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+// Runs a program of the build folder with the arguments as given; stdin is /dev/null so that a
+// program that waits for input fails the test instead of hanging it.
+EngineRun RunEngine(const test::TempDir& dir, const std::string& program, const std::string& args) {
+    const std::string out = dir.Path() + "stdout", err = dir.Path() + "stderr";
+    const std::string command = "timeout 20 " + std::string(ORVANE_BIN_DIR) + program + " " + args +
+                                " </dev/null >'" + out + "' 2>'" + err + "'";
+    const int status = std::system(command.c_str());
+    EngineRun run;
+    run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    run.out = Slurp(out);
+    run.err = Slurp(err);
+    return run;
+}
+
+struct Case {
+    const char* name;
+    const char* program;
+    const char* args; // @page, @fifo, @folder, @out stand for paths in a fresh folder
+    int status;
+    const char* out; // a text that standard output must hold; "" means it must be empty
+    const char* err; // likewise for standard error
+};
+
+void PrintTo(const Case& c, std::ostream* os) {
+    *os << c.name;
+}
+
+class EngineCliTest : public ::testing::TestWithParam<Case> {
+  protected:
+    std::string Expand(std::string args) {
+        const std::pair<const char*, std::string> names[] = {
+            {"@page", dir.Write("page.html", "<p>Hello</p>\n")},
+            {"@other", dir.Write("other.html", "<p>Bye</p>\n")},
+            {"@fifo", dir.Path() + "x.html"},
+            {"@folder", dir.Path() + "sub"},
+            {"@out", dir.Path() + "out.txt"}};
+        ::mkfifo((dir.Path() + "x.html").c_str(), 0600);
+        ::mkdir((dir.Path() + "sub").c_str(), 0700);
+        for (const auto& [token, path] : names)
+            for (std::size_t at; (at = args.find(token)) != std::string::npos;)
+                args.replace(at, std::string(token).size(), "'" + path + "'");
+        return args;
+    }
+    test::TempDir dir;
+};
+
+TEST_P(EngineCliTest, AnswersAsAShellUserExpects) {
+    const Case& c = GetParam();
+    const EngineRun run = RunEngine(dir, c.program, Expand(c.args));
+    EXPECT_EQ(run.status, c.status) << run.out << run.err;
+    if (*c.out)
+        EXPECT_NE(run.out.find(c.out), std::string::npos) << run.out;
+    else
+        EXPECT_EQ(run.out, "");
+    if (*c.err)
+        EXPECT_NE(run.err.find(c.err), std::string::npos) << run.err;
+    else
+        EXPECT_EQ(run.err, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Programs, EngineCliTest,
+    ::testing::Values(
+        // --help is usage on standard output, never a path
+        Case{"LinediffHelp", "linediff", "--help", 0, "usage: linediff", ""},
+        Case{"LinediffsHelp", "linediffs", "--help", 0, "usage: linediffs", ""},
+        Case{"DetagHelp", "detag", "--help", 0, "usage: detag", ""},
+        Case{"DetfileHelp", "detfile", "--help", 0, "usage: detfile", ""},
+        // wrong arguments: usage on standard error
+        Case{"LinediffNoArgs", "linediff", "", 2, "", "usage: linediff"},
+        Case{"DetagNoArgs", "detag", "", 2, "", "usage: detag"},
+        // only regular files are inputs: a FIFO would block, a device read without end
+        Case{"LinediffFifo", "linediff", "@page @fifo", 2, "", "not a regular file"},
+        Case{"LinediffDevZero", "linediff", "/dev/zero @page", 2, "", "not a regular file"},
+        Case{"LinediffsFifo", "linediffs", "@fifo @page", 2, "", "not a regular file"},
+        Case{"LinediffsDevZero", "linediffs", "@page /dev/zero", 2, "", "not a regular file"},
+        Case{"LinediffsFolder", "linediffs", "@folder @page", 2, "", "folder"},
+        Case{"DetagFifo", "detag", "@fifo @out", 2, "", "not a regular file"},
+        Case{"DetagDevZero", "detag", "/dev/zero @out", 2, "", "not a regular file"},
+        Case{"DetfileFifo", "detfile", "@fifo", 2, "", "not a regular file"},
+        Case{"DetfileScoreDevZero", "detfile", "--score /dev/zero", 2, "", "not a regular file"},
+        // errors of the engines themselves go to standard error too
+        Case{"LinediffMissingFile", "linediff", "@page @out", 2, "", "out.txt"},
+        Case{"DetagMissingInput", "detag", "@out @page", 2, "", "out.txt"},
+        Case{"DetagBadPolicy", "detag", "@page @out nopolicy", 1, "", "detag: "},
+        // and the ordinary answers stay on standard output
+        Case{"LinediffDifferent", "linediff", "@page @other", 1, "Hello", ""},
+        Case{"LinediffsMarks", "linediffs", "@page @page", 0, "1111", ""},
+        Case{"DetagConverts", "detag", "@page @out", 0, "", ""},
+        Case{"DetfileHtml", "detfile", "@page", 0, "HTML", ""}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace
+} // namespace orvane
