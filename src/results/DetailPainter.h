@@ -7,15 +7,15 @@
 #include <string>
 #include <vector>
 
-class QTextEdit;
-
 namespace orvane {
+
+class LineDetailView;
 
 QString FromUtf32(const std::u32string& text);
 std::u32string ToUtf32(const QString& text);
 
 // Sets the box's text and colours every run red; `allRed` colours the whole line.
-void PaintDetail(QTextEdit& box, const QString& text, const std::vector<WordRun>& runs);
-void PaintDetail(QTextEdit& box, const QString& text, bool allRed);
+void PaintDetail(LineDetailView& box, const QString& text, const std::vector<WordRun>& runs);
+void PaintDetail(LineDetailView& box, const QString& text, bool allRed);
 
 } // namespace orvane

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <algorithm>
 
 namespace orvane {
 namespace {
@@ -26,6 +27,17 @@ QString DecodeCellText(const std::string& bytes, TextEncoding encoding) {
     return QString::fromUcs4(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+QString DecodeCellPrefix(const std::string& bytes, TextEncoding encoding, qsizetype units) {
+    // Four bytes more than a character can take, so the cut never falls inside the first `units`.
+    const std::size_t take = std::min(bytes.size(), static_cast<std::size_t>(units) * 4 + 4);
+    QString text = DecodeCellText(bytes.substr(0, take), encoding);
+    if (text.size() > units) {
+        text.truncate(units);
+        if (text.back().isHighSurrogate()) text.chop(1);
+    }
+    return text;
+}
+
 FlexGridModel::FlexGridModel(FlexGrid& grid, QObject* parent)
     : QAbstractTableModel(parent), grid_(grid) {}
 
@@ -37,8 +49,13 @@ int FlexGridModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : 1;
 }
 
+// More than the widest screen shows at any readable size: a cell looks as if it held the whole
+// line, which stays in the grid for find and printing, but a line of megabytes is neither
+// decoded nor laid out for each paint.
+constexpr qsizetype kShownCellUnits = 4096;
+
 QString FlexGridModel::DisplayText(long row) const {
-    return DecodeCellText(grid_.RowText(row), grid_.Encoding());
+    return DecodeCellPrefix(grid_.RowText(row), grid_.Encoding(), kShownCellUnits);
 }
 
 QVariant FlexGridModel::data(const QModelIndex& index, int role) const {
@@ -102,11 +119,7 @@ void FlexGridView::OnGridChange(GridChange what, long first, long last) {
         model_->Reset();
         [[fallthrough]];
     case GridChange::TopRow:
-        if (!syncing_ && grid_.TopRow() >= 1 && grid_.TopRow() < grid_.Rows()) {
-            syncing_ = true;
-            verticalScrollBar()->setValue(static_cast<int>(grid_.TopRow() - 1));
-            syncing_ = false;
-        }
+        ShowTopRow();
         break;
     case GridChange::Cells:
         emit model_->dataChanged(model_->index(static_cast<int>(std::max(first, 1L) - 1), 0),
@@ -118,6 +131,20 @@ void FlexGridView::OnGridChange(GridChange what, long first, long last) {
             setCurrentIndex(model_->index(static_cast<int>(first - 1), 0));
         break;
     }
+}
+
+// A scroll made by the program is a scroll all the same: the other grid follows it as it follows
+// the user's, which is what keeps row r of one grid beside row r of the other.
+// Near the end the grid cannot scroll that far, and TopRow then reads as the row really on top.
+void FlexGridView::ShowTopRow() {
+    if (syncing_ || grid_.TopRow() < 1 || grid_.TopRow() >= grid_.Rows()) return;
+    syncing_ = true;
+    executeDelayedItemsLayout(); // the scroll range of a model just reset
+    verticalScrollBar()->setValue(static_cast<int>(grid_.TopRow() - 1));
+    const long shown = verticalScrollBar()->value() + 1;
+    if (shown < grid_.Rows()) grid_.SetTopRow(shown);
+    syncing_ = false;
+    emit TopRowChanged(grid_.TopRow());
 }
 
 void FlexGridView::SyncTopRowFromScroll() {

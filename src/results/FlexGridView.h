@@ -63,6 +63,7 @@ class FlexGridView : public QTableView {
 
   private:
     void OnGridChange(GridChange what, long first, long last);
+    void ShowTopRow();
     void SyncTopRowFromScroll();
 
     FlexGrid& grid_;
@@ -73,5 +74,7 @@ class FlexGridView : public QTableView {
 
 // The text of a cell's bytes as the grid's encoding says.
 QString DecodeCellText(const std::string& bytes, TextEncoding encoding);
+// The first `units` UTF-16 units of that text, decoding no more of the bytes than it needs.
+QString DecodeCellPrefix(const std::string& bytes, TextEncoding encoding, qsizetype units);
 
 } // namespace orvane

@@ -12,6 +12,7 @@
 #include "results/DiffBarView.h"
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
+#include "results/LineDetailView.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFileName.h"
 #include "settings/ProgramOptions.h"
@@ -60,16 +61,9 @@ QComboBox* MakeFileBox(const QString& name, QWidget* parent) {
     return box;
 }
 
-QTextEdit* MakeDetailBox(const QString& name, QWidget* parent) {
-    auto* box = new QTextEdit(parent);
-    box->setObjectName(name);
-    box->setReadOnly(true);
-    box->setLineWrapMode(QTextEdit::NoWrap);
+LineDetailView* MakeDetailBox(const QString& name, QWidget* parent) {
+    auto* box = new LineDetailView(name, parent);
     box->setFont(QFont("Courier New", 10));
-    box->document()->setDocumentMargin(2); // one line fits the box's design height
-    box->setFrameShape(QFrame::Box);
-    box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     return box;
 }
 
@@ -109,10 +103,15 @@ void frmFileDiffs::BuildWidgets() {
     }
     grdOriginalFile = new FlexGridView(originalGrid_, "grdOriginalFile", client_);
     grdRevisedFile = new FlexGridView(revisedGrid_, "grdRevisedFile", client_);
+    // The echo ends by itself: the follower's TopRow is then unchanged. A grid part-way through
+    // a fill may be shorter than its twin; it catches up when its own redraw resumes.
+    const auto follow = [](FlexGrid& follower, long top) {
+        if (top < follower.Rows()) follower.SetTopRow(top);
+    };
     connect(grdOriginalFile, &FlexGridView::TopRowChanged, this,
-            [this](long top) { revisedGrid_.SetTopRow(top); });
+            [this, follow](long top) { follow(revisedGrid_, top); });
     connect(grdRevisedFile, &FlexGridView::TopRowChanged, this,
-            [this](long top) { originalGrid_.SetTopRow(top); });
+            [this, follow](long top) { follow(originalGrid_, top); });
     Splitter = MakeSplitterHandle(*this, client_);
     pctContainer = new DiffBarView(client_);
     connect(pctContainer, &DiffBarView::Pressed, this, [this](float y) { DiffsBar_MouseDown(y); });
@@ -228,12 +227,8 @@ void frmFileDiffs::ResetResultsDisplay() {
 }
 
 void frmFileDiffs::ShowLineDiffPrompt() {
-    rtfLineDiff[0]->setPlainText(kDetailPrompt);
-    rtfLineDiff[0]->setTextColor(palette().color(QPalette::Text));
-    QTextCursor start = rtfLineDiff[0]->textCursor();
-    start.movePosition(QTextCursor::Start);
-    rtfLineDiff[0]->setTextCursor(start);
-    rtfLineDiff[1]->clear();
+    rtfLineDiff[0]->SetLine(kDetailPrompt, {});
+    rtfLineDiff[1]->Clear();
 }
 
 void frmFileDiffs::ShowGridsOrVisualReport(bool ShowGrids) {

@@ -16,13 +16,13 @@
 class QComboBox;
 class QMimeData;
 class QProgressBar;
-class QTextEdit;
 
 namespace orvane {
 
 class Commands;
 class DiffBarView;
 class FlexGridView;
+class LineDetailView;
 
 QWidget* MakeSplitterHandle(class frmFileDiffs& window, QWidget* parent);
 
@@ -94,7 +94,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void DisplayLineDiffsLineLevel();
     void DisplayLineDiffsCharLevel();
     void DisplayLineDiffsWordLevel();
-    QTextEdit* DetailBox(int index) const { return rtfLineDiff[index]; }
+    LineDetailView* DetailBox(int index) const { return rtfLineDiff[index]; }
     DiffBarView* DiffsBar() const { return pctContainer; }
     void Form_Resize();
     void ApplyNewFont(const std::string& FontName, int FontSize, bool FontBold, bool FontItalic);
@@ -200,7 +200,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     FlexGridView* grdRevisedFile = nullptr;
     QComboBox* cboOriginalFile = nullptr;
     QComboBox* cboRevisedFile = nullptr;
-    QTextEdit* rtfLineDiff[2] = {nullptr, nullptr};
+    LineDetailView* rtfLineDiff[2] = {nullptr, nullptr};
     QProgressBar* Animation1 = nullptr;
     DiffBarView* pctContainer = nullptr;
     QWidget* client_ = nullptr;

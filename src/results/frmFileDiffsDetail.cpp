@@ -9,10 +9,10 @@
 #include "results/DetailRuns.h"
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
+#include "results/LineDetailView.h"
 #include "results/frmFileDiffs.h"
 
 #include <QApplication>
-#include <QTextEdit>
 
 namespace orvane {
 namespace {

@@ -67,8 +67,8 @@ void frmFileDiffs::Grid_MouseMove(Side side, long mouseRow) {
     if (!tips || !tips->isChecked()) return;
     const FlexGrid& grid = GridOf(side);
     if (mouseRow < 0 || mouseRow >= grid.Rows()) return;
-    const QString text = DecodeCellText(grid.RowText(mouseRow), grid.Encoding());
-    GridView(side)->setToolTip(text.left(kToolTipLength));
+    const QString text = DecodeCellPrefix(grid.RowText(mouseRow), grid.Encoding(), kToolTipLength);
+    GridView(side)->setToolTip(text);
 }
 
 bool frmFileDiffs::RowsHaveNoColour() const {

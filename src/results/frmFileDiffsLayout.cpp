@@ -6,6 +6,7 @@
 #include "results/Commands.h"
 #include "results/DiffBarView.h"
 #include "results/FlexGridView.h"
+#include "results/LineDetailView.h"
 #include "results/frmFileDiffs.h"
 
 #include <QComboBox>
@@ -19,7 +20,6 @@
 #include <QProgressBar>
 #include <QScreen>
 #include <QStyle>
-#include <QTextEdit>
 #include <QToolBar>
 #include <QUrl>
 

@@ -1,7 +1,7 @@
 #include "results/DiffBarView.h"
 #include "tests/ui/DriverFixture.h"
 
-#include <QTextEdit>
+#include "results/LineDetailView.h"
 
 namespace orvane::test {
 namespace {
@@ -22,7 +22,7 @@ class NavigationTest : public DriverTest {
         window->OriginalGrid().SetRow(row);
         window->Grid_Click(Side::Original);
     }
-    std::string Detail(int box) { return window->DetailBox(box)->toPlainText().toStdString(); }
+    std::string Detail(int box) { return window->DetailBox(box)->Text().toStdString(); }
 };
 
 TEST_F(NavigationTest, StepsThroughTheBlocksAndSaysWhenThereAreNoMore) {
@@ -67,7 +67,7 @@ TEST_F(NavigationTest, TheDetailPaneShowsTheCurrentPair) {
     window->mnuFileShowNextDiff_Click(); // deleted lines face blank rows
     EXPECT_EQ(Detail(0), "D1");
     EXPECT_EQ(Detail(1), "");
-    EXPECT_EQ(window->DetailBox(0)->textCursor().position(), 0);
+    EXPECT_EQ(window->DetailBox(0)->ScrollX(), 0);
 }
 
 TEST_F(NavigationTest, TheBarHasABandPerBlockAndJumpsWherePressed) {
@@ -97,14 +97,10 @@ namespace orvane::test {
 namespace {
 
 // Red characters of a detail box, as a string of '1' (red) and '.' (black).
-std::string RedMap(const QTextEdit& box) {
+std::string RedMap(const LineDetailView& box) {
     std::string map;
-    QTextCursor c(box.document());
-    const QString text = box.toPlainText();
-    for (int i = 0; i < text.size(); ++i) {
-        c.setPosition(i + 1);
-        map += c.charFormat().foreground().color() == Qt::red ? '1' : '.';
-    }
+    for (qsizetype i = 0; i < box.Text().size(); ++i)
+        map += box.IsRed(i) ? '1' : '.';
     return map;
 }
 
@@ -114,7 +110,7 @@ class DetailLevels : public DriverTest {
         gViewOptions->ComparisonLevel = level;
         Compare(dir.Write("a.html", "same\n" + a + "\n"), dir.Write("b.html", "same\n" + b + "\n"));
     }
-    std::string Text(int box) { return window->DetailBox(box)->toPlainText().toStdString(); }
+    std::string Text(int box) { return window->DetailBox(box)->Text().toStdString(); }
 };
 
 TEST_F(DetailLevels, CharacterLevelPaintsOnlyWhatDiffers) {
