@@ -1,6 +1,7 @@
 #pragma once
 // clsMSWordConverter: the word-processor text engine. On this system the word processor is the
 // office suite's soffice, run headless, one process per conversion.
+#include "intake/office/OfficeEngine.h"
 #include "settings/ExtractionOptions.h"
 
 #include <chrono>
@@ -23,7 +24,7 @@ class clsMSWordConverter {
     // The line limit after conversion comes from `Options` (LimitLineLength and
     // MaxNumCharsPerLine of the internal engine); it is read at each conversion.
     explicit clsMSWordConverter(const clsExtractionOptions& Options,
-                                std::chrono::milliseconds TimeLimit = std::chrono::minutes(2));
+                                std::chrono::milliseconds TimeLimit = office::kDefaultTimeLimit);
 
     // Finds the suite on the PATH. Throws RuntimeError 429 where there is none: the pipeline's
     // error trap takes over, as on a machine without the word processor.

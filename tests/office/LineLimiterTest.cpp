@@ -89,12 +89,6 @@ TEST_F(LimiterLibrary, WritesTheTargetAndLeavesTheSource) {
     EXPECT_EQ(Slurp(source), "one two three\r\n");
 }
 
-TEST_F(LimiterLibrary, ShorterLinesComeOutTheSame) {
-    const std::string text = "A short line.\r\nAnother one.\r\n";
-    EXPECT_NE(Limit(dir.Write("in.txt", text), 79, dir.Path() + "out.txt"), 0);
-    EXPECT_EQ(Slurp(dir.Path() + "out.txt"), text);
-}
-
 TEST_F(LimiterLibrary, ZeroWhenNothingCanBeWritten) {
     EXPECT_EQ(Limit(dir.Path() + "missing.txt", 8, dir.Path() + "out.txt"), 0);
     EXPECT_FALSE(std::filesystem::exists(dir.Path() + "out.txt"));

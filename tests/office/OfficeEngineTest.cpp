@@ -89,12 +89,6 @@ TEST(OfficeEngine, UnknownSaveFormatIsRefusedWithoutStartingTheSuite) {
     EXPECT_FALSE(std::filesystem::exists(dir.Path() + "o.txt"));
 }
 
-TEST(OfficeEngine, LineEndsBecomeCrlfAndCrlfStays) {
-    EXPECT_EQ(office::NormaliseLineEnds("a\nb\r\nc\n\nd"), "a\r\nb\r\nc\r\n\r\nd");
-    EXPECT_EQ(office::NormaliseLineEnds("\n"), "\r\n");
-    EXPECT_EQ(office::NormaliseLineEnds("no end"), "no end");
-}
-
 // What the suite cannot read is a clean failure after about a second, and no target appears.
 TEST(OfficeEngine, UnreadableFilesFailCleanly) {
     ASSERT_FALSE(RealSuite().empty());

@@ -62,6 +62,8 @@ int LiveMembers(pid_t group) {
         ::dup2(out, STDOUT_FILENO);
         ::dup2(out, STDERR_FILENO);
     }
+    // The window's sockets and pipes stay with the window, not with a suite that may outlive it.
+    ::close_range(3, ~0U, 0);
     if (*workDir != '\0' && ::chdir(workDir) != 0) ::_exit(127);
     ::execve(program, argv, envp);
     ::_exit(127);

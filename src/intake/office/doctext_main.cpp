@@ -31,7 +31,8 @@ int main(int argc, char** argv) {
     const std::string usage = "usage: doctext SOURCE TARGET [--format 2|3|4|5|7] [--max-chars N] "
                               "[--time-limit SECONDS]";
     std::string source, target;
-    int format = office::kTextOnly, maxChars = 0, seconds = 120;
+    int format = office::kTextOnly, maxChars = 0;
+    int seconds = static_cast<int>(office::kDefaultTimeLimit.count() / 1000);
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         int* number = arg == "--format"       ? &format
