@@ -29,21 +29,20 @@ bool CopyFile(const std::string& from, const std::string& to) {
                                       ec);
 }
 
-bool RunOfficeSuite(const std::string& path, const std::string& textFile, int& attempts) {
-    clsMSWordConverter converter;
+// One turn of the word processor. The counter counts only a conversion that was tried: a
+// suite that cannot start throws from Initialize and ends the whole run in the caller's trap.
+bool RunWordProcessor(const std::string& path, const std::string& textFile,
+                      const clsExtractionOptions& options, int& attempts) {
+    clsMSWordConverter converter(options);
     if (!converter.Initialize(false)) return false;
-    const bool ok =
-        converter.ConvertFileToText(path, textFile, gExtractionOptions->MSWordSaveAsFormat, false);
+    const bool ok = converter.ConvertFileToText(path, textFile, options.MSWordSaveAsFormat, false);
     DoEvents();
     ++attempts;
     return ok;
 }
 
-} // namespace
-
-bool ConvertFile(const std::string& Path, int Method, const std::string& Format,
-                 std::string& TextFile, std::string& FailureReason) {
-    (void)Format;
+bool ConvertFileWith(const std::string& Path, int Method, std::string& TextFile,
+                     std::string& FailureReason, const clsExtractionOptions& options) {
     try {
         if (Method == kMethodNone) return true;
         if (Method != kMethodHtml) return false;
@@ -55,7 +54,7 @@ bool ConvertFile(const std::string& Path, int Method, const std::string& Format,
             return false;
         case ModeText: {
             std::string message;
-            if (ConvertHTMLToText(Path, TextFile, message, *gExtractionOptions)) return true;
+            if (ConvertHTMLToText(Path, TextFile, message, options)) return true;
             FailureReason = !message.empty() ? message
                                              : "The internal HTML converter failed.  Try using "
                                                "an alternate converter.";
@@ -72,32 +71,44 @@ bool ConvertFile(const std::string& Path, int Method, const std::string& Format,
     }
 }
 
+} // namespace
+
+bool ConvertFile(const std::string& Path, int Method, const std::string& Format,
+                 std::string& TextFile, std::string& FailureReason) {
+    (void)Format;
+    return ConvertFileWith(Path, Method, TextFile, FailureReason, *gExtractionOptions);
+}
+
 bool ConvertFileIfNeeded(const std::string& Path, const std::string& Format, std::string& TextFile,
                          std::string& FailureReason) {
+    return ConvertFileIfNeeded(Path, Format, TextFile, FailureReason, *gExtractionOptions);
+}
+
+bool ConvertFileIfNeeded(const std::string& Path, const std::string& Format, std::string& TextFile,
+                         std::string& FailureReason, const clsExtractionOptions& Options) {
     try {
         int attempts = 0;
         const int method = GetConversionMethodForFormat(Path, Format);
+        // Refused before any engine runs, although the word processor could read more formats.
         if (method == -1) {
             FailureReason = "Only HTML and ASCII text files may be compared.";
             return false;
         }
         TextFile = MakeTextFileSpec();
-        bool internal = gExtractionOptions->EnginePreference == 0;
-        std::string message;
-        for (int turn = 0;; ++turn) { // each engine runs at most once
-            bool ok;
-            if (internal) {
-                ok = ConvertFile(Path, method, Format, TextFile, message);
-                ++attempts;
-            } else {
-                ok = RunOfficeSuite(Path, TextFile, attempts);
-            }
+        bool internal = Options.EnginePreference == 0;
+        std::string message; // the internal engine's words; the word processor's stay unread
+        for (int turn = 1;; ++turn) {
+            const bool ok = internal ? ConvertFileWith(Path, method, TextFile, message, Options)
+                                     : RunWordProcessor(Path, TextFile, Options, attempts);
+            if (internal) ++attempts;
             if (ok) return true;
-            if (attempts >= 2 || turn >= 1) {
+            if (attempts == 2) {
                 FailureReason = "Unable to extract the text data from file.\r\n\r\n" + message;
                 return false;
             }
-            internal = gExtractionOptions->EnginePreference != 0;
+            // Each engine runs at most once; a second turn that counted nothing ends here.
+            if (turn == 2) return false;
+            internal = Options.EnginePreference != 0;
         }
     } catch (...) {
         ReportUnexpectedError("modConvertFormats.ConvertFileIfNeeded");

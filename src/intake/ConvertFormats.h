@@ -1,6 +1,8 @@
 #pragma once
 // Text Content mode: an input file turned into a plain text file by the preferred engine, and by
 // the other one when the first fails.
+#include "settings/ExtractionOptions.h"
+
 #include <string>
 
 namespace orvane::modConvertFormats {
@@ -9,6 +11,9 @@ namespace orvane::modConvertFormats {
 // why. Path is a local file, Format its code ("HTML" for a downloaded page).
 bool ConvertFileIfNeeded(const std::string& Path, const std::string& Format, std::string& TextFile,
                          std::string& FailureReason);
+// The same with the extraction settings given; EnginePreference is read anew at each choice.
+bool ConvertFileIfNeeded(const std::string& Path, const std::string& Format, std::string& TextFile,
+                         std::string& FailureReason, const clsExtractionOptions& Options);
 
 // The internal engine, by conversion method and comparison mode.
 bool ConvertFile(const std::string& Path, int Method, const std::string& Format,

@@ -24,7 +24,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QProgressBar>
-#include <QTextEdit>
 #include <QTimer>
 #include <QToolBar>
 #include <filesystem>
