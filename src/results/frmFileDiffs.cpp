@@ -7,8 +7,10 @@
 #include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
+#include "frame/SettingsFolder.h"
 #include "results/Commands.h"
 #include "results/DiffBarView.h"
+#include "results/FixedColours.h"
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
 #include "settings/ExtractionOptions.h"
@@ -45,6 +47,7 @@ QTextEdit* MakeDetailBox(const QString& name, QWidget* parent) {
     auto* box = new QTextEdit(parent);
     box->setObjectName(name);
     box->setReadOnly(true);
+    UseFixedColours(*box);
     box->setLineWrapMode(QTextEdit::NoWrap);
     box->setFont(QFont("Courier New", 10));
     box->document()->setDocumentMargin(2); // one line fits the box's design height
@@ -55,7 +58,7 @@ QTextEdit* MakeDetailBox(const QString& name, QWidget* parent) {
 }
 
 std::string IniFilePath() {
-    return gAppPath + ProgramIniFileName();
+    return SettingsFolder() + ProgramIniFileName();
 }
 
 } // namespace
@@ -119,10 +122,12 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
         SetCommandsForNoResults();
         PopulateFileComboBoxesFromIniFile();
         ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);
-        const bool firstRun = !std::filesystem::exists(IniFilePath());
+        bool firstRun = !std::filesystem::exists(IniFilePath());
         if (!commandLine.empty()) {
             std::string original, revised, report;
             GetFilesFromCommandLine(commandLine, original, revised, report);
+            // The welcome page is for a person at the window, never for an unattended run.
+            if (!original.empty() && !revised.empty() && !report.empty()) firstRun = false;
             if (!original.empty()) cboOriginalFile->setEditText(Q(original));
             if (!revised.empty()) cboRevisedFile->setEditText(Q(revised));
             // A third token asks for an unattended report run; until reports can be written the
@@ -201,7 +206,7 @@ void frmFileDiffs::ResetResultsDisplay() {
 
 void frmFileDiffs::ShowLineDiffPrompt() {
     rtfLineDiff[0]->setPlainText(kDetailPrompt);
-    rtfLineDiff[0]->setTextColor(palette().color(QPalette::Text));
+    rtfLineDiff[0]->setTextColor(Qt::black);
     QTextCursor start = rtfLineDiff[0]->textCursor();
     start.movePosition(QTextCursor::Start);
     rtfLineDiff[0]->setTextCursor(start);
