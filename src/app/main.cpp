@@ -1,17 +1,40 @@
+#include "app/AppPrompter.h"
+#include "app/StartOptions.h"
+#include "app/TerminationSignal.h"
 #include "app/modDiff.h"
 #include "frame/CommandLine.h"
-#include "frame/QtPrompter.h"
 
 #include <QApplication>
+#include <iostream>
+
+namespace {
+
+std::vector<std::string> ArgumentsOf(const QStringList& all) {
+    std::vector<std::string> arguments;
+    for (const QString& a : all.mid(1))
+        arguments.push_back(a.toStdString());
+    return arguments;
+}
+
+} // namespace
 
 int main(int argc, char* argv[]) {
+    // --help and --version must work without a display, so they are read before Qt starts.
+    const orvane::StartDecision early = orvane::DecideStart({argv + 1, argv + argc});
+    if (early.ExitNow) {
+        std::cout << early.Out;
+        std::cerr << early.Err;
+        return early.Status;
+    }
     QApplication app(argc, argv);
     QApplication::setApplicationName("Orvane");
-    orvane::SetPrompter(std::make_shared<orvane::QtPrompter>());
-    std::vector<std::string> arguments;
-    for (const QString& a : QApplication::arguments().mid(1))
-        arguments.push_back(a.toStdString());
-    const std::string commandLine = orvane::JoinArgumentsAsCommandLine(arguments);
+    QApplication::setDesktopFileName("io.github.orvane.Orvane");
+    orvane::SetPrompter(std::make_shared<orvane::AppPrompter>());
+    orvane::CloseWindowsOnTerminationSignal();
+    // Qt has taken its own options off by now.
+    const orvane::StartDecision start = orvane::DecideStart(ArgumentsOf(QApplication::arguments()));
+    std::cerr << start.Err;
+    const std::string commandLine = orvane::JoinArgumentsAsCommandLine(start.Arguments);
     if (!orvane::Main(QApplication::applicationDirPath().toStdString(), commandLine)) return 0;
     const int status = QApplication::exec();
     orvane::EndProgram();

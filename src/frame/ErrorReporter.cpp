@@ -3,6 +3,7 @@
 #include "compare/ViewOptions.h"
 #include "frame/Globals.h"
 #include "frame/Prompter.h"
+#include "frame/SettingsFolder.h"
 
 #include <cerrno>
 #include <cstring>
@@ -26,7 +27,9 @@ bool IsBlank(const std::string& s) {
 }
 
 void AppendDetailRecord(const std::string& errorText, const std::string& detail) {
-    std::ofstream out(gAppPath + "ERR_DETAIL.TXT", std::ios::binary | std::ios::app);
+    const std::string folder = SettingsFolder();
+    MakeSettingsFolder(folder);
+    std::ofstream out(folder + "ERR_DETAIL.TXT", std::ios::binary | std::ios::app);
     if (!out) throw RuntimeError(err::PathFileAccess, ErrorDescription(err::PathFileAccess), errno);
     out << kLineEnd << NowText() << kLineEnd << errorText << kLineEnd << "- More Information - "
         << kLineEnd << detail << kLineEnd;

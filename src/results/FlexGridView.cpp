@@ -1,6 +1,7 @@
 #include "results/FlexGridView.h"
 
 #include "compare/lcs/CodePoints.h"
+#include "results/FixedColours.h"
 #include "results/RowMarkers.h"
 
 #include <QBrush>
@@ -93,6 +94,7 @@ QVariant FlexGridModel::headerData(int, Qt::Orientation o, int role) const {
 FlexGridView::FlexGridView(FlexGrid& grid, const QString& name, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(new FlexGridModel(grid, this)) {
     setObjectName(name);
+    UseFixedColours(*this);
     setModel(model_);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

@@ -1,5 +1,6 @@
 #include "results/ToolbarImages.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -151,11 +152,14 @@ void Draw(QPainter& p, int image) {
     }
 }
 
-QPixmap Render(int image, QIcon::Mode mode) {
-    QPixmap pixmap(S, S);
+// Drawn at the size of the device pixels asked for, so that the image is crisp at any device
+// pixel ratio instead of a 20-pixel bitmap blown up.
+QPixmap Render(int image, QIcon::Mode mode, int pixels) {
+    QPixmap pixmap(pixels, pixels);
     pixmap.fill(Qt::transparent);
     QPainter p(&pixmap);
     p.setRenderHint(QPainter::Antialiasing);
+    p.scale(static_cast<qreal>(pixels) / S, static_cast<qreal>(pixels) / S);
     if (mode == QIcon::Active) {
         p.setPen(QPen(QColor(120, 160, 220), 1));
         p.setBrush(QColor(225, 236, 252));
@@ -175,13 +179,38 @@ QPixmap Render(int image, QIcon::Mode mode) {
     return QPixmap::fromImage(grey);
 }
 
+class ToolbarIconEngine : public QIconEngine {
+  public:
+    explicit ToolbarIconEngine(int image) : image_(image) {}
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+        const int pixels = std::max(1, std::min(size.width(), size.height()));
+        return Render(image_, mode == QIcon::Selected ? QIcon::Normal : mode, pixels);
+    }
+    // `size` is in device pixels already.
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state,
+                         qreal scale) override {
+        QPixmap p = pixmap(size, mode, state);
+        p.setDevicePixelRatio(scale);
+        return p;
+    }
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
+               QIcon::State state) override {
+        const qreal scale = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        painter->drawPixmap(
+            rect, scaledPixmap((QSizeF(rect.size()) * scale).toSize(), mode, state, scale));
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override { return size; }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {QSize(S, S)}; }
+    QIconEngine* clone() const override { return new ToolbarIconEngine(image_); }
+
+  private:
+    int image_;
+};
+
 } // namespace
 
 QIcon ToolbarIcon(int image) {
-    QIcon icon;
-    for (QIcon::Mode mode : {QIcon::Normal, QIcon::Active, QIcon::Disabled})
-        icon.addPixmap(Render(image, mode), mode);
-    return icon;
+    return QIcon(new ToolbarIconEngine(image));
 }
 
 } // namespace orvane

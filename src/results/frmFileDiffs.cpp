@@ -7,9 +7,11 @@
 #include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
+#include "frame/SettingsFolder.h"
 #include "intake/download/Download.h"
 #include "results/Commands.h"
 #include "results/DiffBarView.h"
+#include "results/FixedColours.h"
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
 #include "results/LineDetailView.h"
@@ -62,12 +64,13 @@ QComboBox* MakeFileBox(const QString& name, QWidget* parent) {
 
 LineDetailView* MakeDetailBox(const QString& name, QWidget* parent) {
     auto* box = new LineDetailView(name, parent);
+    UseFixedColours(*box);
     box->setFont(QFont("Courier New", 10));
     return box;
 }
 
 std::string IniFilePath() {
-    return gAppPath + ProgramIniFileName();
+    return SettingsFolder() + ProgramIniFileName();
 }
 
 } // namespace
@@ -137,10 +140,12 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
         SetCommandsForNoResults();
         PopulateFileComboBoxesFromIniFile();
         ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);
-        const bool firstRun = !std::filesystem::exists(IniFilePath());
+        bool firstRun = !std::filesystem::exists(IniFilePath());
         if (!commandLine.empty()) {
             std::string original, revised, report;
             GetFilesFromCommandLine(commandLine, original, revised, report);
+            // The welcome page is for a person at the window, never for an unattended run.
+            if (!original.empty() && !revised.empty() && !report.empty()) firstRun = false;
             if (!original.empty()) cboOriginalFile->setEditText(Q(original));
             if (!revised.empty()) cboRevisedFile->setEditText(Q(revised));
             // A third token asks for an unattended report run; until reports can be written the

@@ -4,6 +4,7 @@
 #include "frame/Globals.h"
 #include "frame/Prompter.h"
 #include "frame/RuntimeError.h"
+#include "frame/SettingsFolder.h"
 #include "settings/ProfileFile.h"
 
 #include <limits>
@@ -19,7 +20,7 @@ constexpr std::size_t kReadSize = kBufferSize - 1;
 
 } // namespace
 
-CIniFile::CIniFile() : AppPath(gAppPath) {}
+CIniFile::CIniFile() : AppPath(SettingsFolder()) {}
 
 void CIniFile::Name(const std::string& NewName) {
     if (!m_Name.empty()) {
@@ -79,6 +80,7 @@ std::string CIniFile::GetStringValue(const std::string& Default) {
 void CIniFile::SetStringValue(const std::string& Value) {
     try {
         if (!PropertiesSet(true)) return;
+        MakeSettingsFolder(AppPath); // the user's configuration folder comes with the first save
         profile::WritePrivateProfileString(m_Section, m_Key, Value, FileSpec);
     } catch (...) {
         ReportUnexpectedError("cIniFile.SetStringValue()", "");

@@ -9,7 +9,7 @@ namespace orvane {
 
 class CIniFile {
   public:
-    CIniFile(); // takes a copy of gAppPath, which must be set by then
+    CIniFile(); // takes SettingsFolder(), so gAppPath must be set by then
 
     const std::string& Name() const { return m_Name; }
     void Name(const std::string& NewName);

@@ -4,6 +4,7 @@
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -94,6 +95,12 @@ TEST_F(ErrorReporterTest, AReportFileRunTakesTheTextInsteadOfABox) {
 }
 
 TEST_F(ErrorReporterTest, AFailingDetailFileGivesTheHandlersOwnBox) {
+    // Neither the program folder nor the user's configuration folder can take the file: the
+    // latter lies under a plain file.
+    const std::string blocker = dir.Write("plain-file", "");
+    const char* oldXdg = std::getenv("XDG_CONFIG_HOME");
+    const std::string savedXdg = oldXdg ? oldXdg : "";
+    ::setenv("XDG_CONFIG_HOME", (blocker + "/config").c_str(), 1);
     if (::geteuid() == 0) {
         gAppPath = dir.Path() + "no-such-folder/"; // root may write anywhere: use a missing folder
     } else {
@@ -101,6 +108,7 @@ TEST_F(ErrorReporterTest, AFailingDetailFileGivesTheHandlersOwnBox) {
     }
     Report(9, "detail");
     ::chmod(dir.Path().c_str(), 0700);
+    oldXdg ? ::setenv("XDG_CONFIG_HOME", savedXdg.c_str(), 1) : ::unsetenv("XDG_CONFIG_HOME");
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Error in Error Handler");
     EXPECT_EQ(

@@ -2,6 +2,9 @@
 
 #include "SettingsTestSupport.h"
 
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <optional>
 
 namespace orvane::test {
@@ -28,6 +31,11 @@ TEST_F(IniFile, SecondNameIsRefusedWithBoxNamingFirstFile) {
 TEST_F(IniFile, FolderIsTakenAtConstructionAndFailedWriteIsSilent) {
     CIniFile ini;
     gAppPath = Folder + "gone/";
+    // A missing program folder sends the settings to the user's folder; make that fail too.
+    const char* oldXdg = std::getenv("XDG_CONFIG_HOME");
+    const std::string savedXdg = oldXdg ? oldXdg : "";
+    std::ofstream(Folder + "plain-file").put('x');
+    ::setenv("XDG_CONFIG_HOME", (Folder + "plain-file/config").c_str(), 1);
     CIniFile lost;
     for (CIniFile* f : {&ini, &lost}) {
         f->Name("a.ini");
@@ -35,8 +43,10 @@ TEST_F(IniFile, FolderIsTakenAtConstructionAndFailedWriteIsSilent) {
         f->Key("MaxNumCharsPerLine");
         f->SetStringValue("79");
     }
-    EXPECT_EQ(ReadFile("a.ini"), "[Text Extraction]\r\nMaxNumCharsPerLine=79\r\n");
     EXPECT_EQ(lost.GetStringValue("dflt"), "dflt");
+    oldXdg ? ::setenv("XDG_CONFIG_HOME", savedXdg.c_str(), 1) : ::unsetenv("XDG_CONFIG_HOME");
+    std::filesystem::remove(Folder + "plain-file");
+    EXPECT_EQ(ReadFile("a.ini"), "[Text Extraction]\r\nMaxNumCharsPerLine=79\r\n");
     EXPECT_TRUE(Prompts->Boxes.empty());
 }
 

@@ -1,0 +1,12 @@
+#include "app/AppPrompter.h"
+
+#include "dialogs/frmHelp.h"
+#include "frame/Globals.h"
+
+namespace orvane {
+
+void AppPrompter::ShowHelp(int context) {
+    frmHelp::ShowTopic(gAppPath + "help/", context);
+}
+
+} // namespace orvane
