@@ -1,4 +1,5 @@
 #include "results/FlexGridView.h"
+#include "results/LineDetailView.h"
 #include "tests/ui/DriverFixture.h"
 
 #include <QApplication>
