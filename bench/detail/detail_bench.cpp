@@ -166,6 +166,10 @@ int main(int argc, char* argv[]) {
         while ((counters[0].paints == 0 || counters[1].paints == 0) && Clock::now() < deadline)
             QApplication::processEvents(QEventLoop::AllEvents, 50);
         const double seconds = Seconds(Clock::now() - start);
+        if (counters[0].paints == 0) {
+            std::printf("%-10s   refused: the line has over 1001 words\n", "Word");
+            continue;
+        }
         const long used = StatusMegabytes("VmHWM:") - before;
         const auto span = window.DetailBox(1)->VisibleSpan();
         std::printf("%-10s %10.3f s %+9.3f s %12ld %14ld %8lld\n",
