@@ -24,6 +24,7 @@
 #include <fstream>
 #include <random>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -53,9 +54,9 @@ void ResetPeak() {
     std::ofstream("/proc/self/clear_refs") << "5";
 }
 
-// Markup of about `bytes` bytes in one line, and the same with three changes: near the start,
-// in the middle and near the end.
-void MakePair(std::size_t bytes, std::string& a, std::string& b) {
+// Markup of about `bytes` bytes in one line, and the same with a change at each fraction `at`.
+void MakePair(std::size_t bytes, const std::vector<double>& changes, std::string& a,
+              std::string& b) {
     std::mt19937 rng(7);
     static const char* tags[] = {"div", "span", "td", "a", "li"};
     while (a.size() < bytes) {
@@ -64,7 +65,7 @@ void MakePair(std::size_t bytes, std::string& a, std::string& b) {
              std::to_string(rng()) + "</" + t + ">";
     }
     b = a;
-    for (double at : {0.001, 0.5, 0.999})
+    for (double at : changes)
         b.replace(static_cast<std::size_t>(static_cast<double>(b.size()) * at), 4, "XYZW");
 }
 
@@ -103,80 +104,91 @@ int main(int argc, char* argv[]) {
     gExtractionOptions = std::make_unique<clsExtractionOptions>();
 
     const double megabytes = argc > 1 ? std::atof(argv[1]) : 5.0;
-    std::string a, b;
-    MakePair(static_cast<std::size_t>(megabytes * 1024 * 1024), a, b);
+    const struct {
+        const char* name;
+        std::vector<double> changes;
+    } kinds[] = {{"one change near the end", {0.999}},
+                 {"changes at start, middle and end", {0.001, 0.5, 0.999}}};
+    for (const auto& kind : kinds) {
+        std::string a, b;
+        MakePair(static_cast<std::size_t>(megabytes * 1024 * 1024), kind.changes, a, b);
 
-    // The peer: the LCS of the two lines alone.
-    double lcsSeconds = 0;
-    long lcsMegabytes = 0;
-    {
-        const std::u32string ua(a.begin(), a.end()), ub(b.begin(), b.end());
-        modDiff::Marks ma, mb;
-        const long before = StatusMegabytes("VmRSS:");
-        ResetPeak();
-        const auto start = Clock::now();
-        modDiff::StringDiffsCharLevel(ua, ub, false, ma, mb);
-        lcsSeconds = Seconds(Clock::now() - start);
-        lcsMegabytes = StatusMegabytes("VmHWM:") - before;
-    }
+        // The peer: the LCS of the two lines alone.
+        double lcsSeconds = 0;
+        long lcsMegabytes = 0;
+        {
+            const std::u32string ua(a.begin(), a.end()), ub(b.begin(), b.end());
+            modDiff::Marks ma, mb;
+            const long before = StatusMegabytes("VmRSS:");
+            ResetPeak();
+            const auto start = Clock::now();
+            modDiff::StringDiffsCharLevel(ua, ub, false, ma, mb);
+            lcsSeconds = Seconds(Clock::now() - start);
+            lcsMegabytes = StatusMegabytes("VmHWM:") - before;
+        }
 
-    const std::string fa = dir + "a.html", fb = dir + "b.html";
-    std::ofstream(fa) << "same\n" << a << "\nsame\n";
-    std::ofstream(fb) << "same\n" << b << "\nsame\n";
-    a.clear();
-    a.shrink_to_fit();
-    b.clear();
-    b.shrink_to_fit();
+        const std::string fa = dir + "a.html", fb = dir + "b.html";
+        std::ofstream(fa) << "same\n" << a << "\nsame\n";
+        std::ofstream(fb) << "same\n" << b << "\nsame\n";
+        a.clear();
+        a.shrink_to_fit();
+        b.clear();
+        b.shrink_to_fit();
 
-    frmFileDiffs window;
-    window.Form_Load("");
-    gViewOptions->OutputFormat = OutputSideBySide;
-    window.resize(1200, 800);
-    window.show();
-    if (!QTest::qWaitForWindowExposed(&window)) return 1;
-    window.OriginalFileBox()->setEditText(QString::fromStdString(fa));
-    window.RevisedFileBox()->setEditText(QString::fromStdString(fb));
-    window.CompareFiles(true);
-    QApplication::processEvents();
-
-    FlexGridView* grid = window.GridView(Side::Original);
-    const auto click = [&](int row) {
-        const QRect cell = grid->visualRect(grid->model()->index(row - 1, 0));
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, cell.center());
-    };
-    PaintCounter counters[2];
-    for (int i = 0; i < 2; ++i)
-        window.DetailBox(i)->viewport()->installEventFilter(&counters[i]);
-
-    std::printf("%.1f MB line pair; LCS alone: %.3f s, %ld MB\n", megabytes, lcsSeconds,
-                lcsMegabytes);
-    std::printf("%-10s %12s %10s %12s %14s %8s\n", "level", "click->paint", "vs LCS", "memory MB",
-                "beyond LCS MB", "visible");
-    for (int level : {LevelCharacter, LevelLine, LevelWord}) {
-        gViewOptions->ComparisonLevel = level;
-        click(1);
+        frmFileDiffs window;
+        window.Form_Load("");
+        gViewOptions->OutputFormat = OutputSideBySide;
+        window.resize(1200, 800);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window)) return 1;
+        window.OriginalFileBox()->setEditText(QString::fromStdString(fa));
+        window.RevisedFileBox()->setEditText(QString::fromStdString(fb));
+        window.CompareFiles(true);
         QApplication::processEvents();
-        counters[0].paints = counters[1].paints = 0;
-        const long before = StatusMegabytes("VmRSS:");
-        ResetPeak();
-        const auto start = Clock::now();
-        click(2);
-        // A line the word level refuses (over 1001 words) leaves the boxes as they were.
-        const auto deadline = Clock::now() + std::chrono::seconds(20);
-        while ((counters[0].paints == 0 || counters[1].paints == 0) && Clock::now() < deadline)
-            QApplication::processEvents(QEventLoop::AllEvents, 50);
-        const double seconds = Seconds(Clock::now() - start);
-        const long used = StatusMegabytes("VmHWM:") - before;
-        const auto span = window.DetailBox(1)->VisibleSpan();
-        std::printf("%-10s %10.3f s %+9.3f s %12ld %14ld %8lld\n",
-                    level == LevelCharacter ? "Character"
-                    : level == LevelLine    ? "Line"
-                                            : "Word",
-                    seconds, seconds - lcsSeconds, used, used - lcsMegabytes,
-                    static_cast<long long>(span.second - span.first));
+
+        FlexGridView* grid = window.GridView(Side::Original);
+        const auto click = [&](int row) {
+            const QRect cell = grid->visualRect(grid->model()->index(row - 1, 0));
+            QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, cell.center());
+        };
+        PaintCounter counters[2];
+        for (int i = 0; i < 2; ++i)
+            window.DetailBox(i)->viewport()->installEventFilter(&counters[i]);
+
+        std::printf("\n%.1f MB line pair, %s; LCS alone: %.3f s, %ld MB\n", megabytes, kind.name,
+                    lcsSeconds, lcsMegabytes);
+        std::printf("%-10s %12s %10s %12s %14s %8s\n", "level", "click->paint", "vs LCS",
+                    "memory MB", "beyond LCS MB", "visible");
+        for (int level : {LevelCharacter, LevelLine, LevelWord}) {
+            gViewOptions->ComparisonLevel = level;
+            click(1);
+            QApplication::processEvents();
+            counters[0].paints = counters[1].paints = 0;
+            const long before = StatusMegabytes("VmRSS:");
+            ResetPeak();
+            const auto start = Clock::now();
+            click(2);
+            // A line the word level refuses (over 1001 words) leaves the boxes as they were.
+            const auto deadline = Clock::now() + std::chrono::seconds(20);
+            while ((counters[0].paints == 0 || counters[1].paints == 0) && Clock::now() < deadline)
+                QApplication::processEvents(QEventLoop::AllEvents, 50);
+            const double seconds = Seconds(Clock::now() - start);
+            if (counters[0].paints == 0) {
+                std::printf("%-10s   refused: the line has over 1001 words\n", "Word");
+                continue;
+            }
+            const long used = StatusMegabytes("VmHWM:") - before;
+            const auto span = window.DetailBox(1)->VisibleSpan();
+            std::printf("%-10s %10.3f s %+9.3f s %12ld %14ld %8lld\n",
+                        level == LevelCharacter ? "Character"
+                        : level == LevelLine    ? "Line"
+                                                : "Word",
+                        seconds, seconds - lcsSeconds, used, used - lcsMegabytes,
+                        static_cast<long long>(span.second - span.first));
+        }
+        std::remove(fa.c_str());
+        std::remove(fb.c_str());
     }
-    std::remove(fa.c_str());
-    std::remove(fb.c_str());
     QDir(QString::fromStdString(dir)).removeRecursively();
     return 0;
 }

@@ -74,12 +74,22 @@ void LineDetailView::Measure() {
     blockX_.clear();
     double x = 0;
     const qsizetype n = text_.size();
-    for (qsizetype i = 0; i < n; i = Next(i)) {
-        if (i >= static_cast<qsizetype>(blockX_.size()) * kBlock) {
-            // A pair of surrogates may push a block's start one unit on; the walk finds it.
-            blockX_.push_back(x);
+    const QChar* data = text_.constData();
+    for (qsizetype i = 0; i < n;) {
+        // A pair of surrogates may push a block's start one unit on; the walk finds it.
+        blockX_.push_back(x);
+        const qsizetype blockEnd = std::min(n, static_cast<qsizetype>(blockX_.size()) * kBlock);
+        while (i < blockEnd) {
+            const char16_t c = data[i].unicode();
+            const float known = QChar::isSurrogate(c) ? -1.0f : bmpAdvance_[c];
+            if (known >= 0) {
+                x += known;
+                ++i;
+            } else {
+                x += Advance(i);
+                i = Next(i);
+            }
         }
-        x += Advance(i);
     }
     blockX_.push_back(x);
     UpdateRange();
