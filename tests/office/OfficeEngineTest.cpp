@@ -103,6 +103,7 @@ TEST(OfficeEngine, UnreadableFilesFailCleanly) {
         {"not a document", dir.Write("noise.bin", noise)},
         {"truncated docx", dir.Write("broken.docx", std::string("PK\x03\x04", 4) + "garbage")},
         {"missing", dir.Path() + "missing.html"},
+        {"empty", dir.Write("empty.html", "")},
         {"folder", dir.Path()},
     };
     for (const auto& c : cases) {

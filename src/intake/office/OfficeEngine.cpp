@@ -110,6 +110,8 @@ Outcome ConvertToText(const std::string& source, const std::string& target, int 
     if (filter.empty()) return {Status::BadFormat, std::to_string(saveFormat)};
     std::error_code ec;
     if (!fs::is_regular_file(source, ec)) return {Status::NotOpened, source};
+    // The suite would make one empty line of nothing; say plainly that there was nothing.
+    if (fs::file_size(source, ec) == 0) return {Status::NotOpened, "the file is empty"};
     RunFolder folder;
     if (!folder.ok()) return {Status::NotStarted, "temporary folder"};
     for (const char* sub : {"home", "profile", "in", "out"})
