@@ -6,7 +6,12 @@ cd "$(dirname "$0")/.."
 
 packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev
           libbenchmark-dev libcurl4-openssl-dev zlib1g-dev openssl diffutils patch python3
-          clang-format w3m ccache)
+          clang-format w3m ccache
+          # printing: a private print server with a PDF queue for the tests, PDF readers to
+          # check the pages, the metric twin of Courier New
+          cups printer-driver-cups-pdf poppler-utils fonts-liberation
+          # the desktop's default-application query
+          xdg-utils)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
