@@ -60,6 +60,7 @@ double Seconds(Clock::duration d) {
 // texttopdf of one file, as cupsfilter runs it; the child's time and peak memory.
 void Peer(const std::vector<std::string>& files, const std::string& outFolder) {
     const auto start = Clock::now();
+    std::fflush(stdout); // the children must not print our buffered lines again
     for (std::size_t i = 0; i < files.size(); ++i) {
         const pid_t pid = ::fork();
         if (pid == 0) {
@@ -89,18 +90,21 @@ int main(int argc, char** argv) {
         folder = std::string(::mkdtemp(pattern.data())) + "/";
     }
     const std::string a = folder + "a.html", b = folder + "b.html", pdf = folder + "grids.pdf";
+    std::filesystem::create_directories(folder);
     WritePair(lines, a, b);
 
     SetPrompter(std::make_shared<QuietPrompter>());
-    gAppPath = folder;
+    // The engines load from the program's folder; settings go to the bench's own folder.
+    const std::string bin = QCoreApplication::applicationDirPath().toStdString() + "/";
+    gAppPath = bin;
     gViewOptions = std::make_unique<cViewFileDiffsOptions>();
     gViewOptions->OutputFormat = OutputSideBySide;
     gViewOptions->ComparisonMode = ModeCode;
     gFileDiff = std::make_unique<FileDiffEngine>();
     gExtractionOptions = std::make_unique<clsExtractionOptions>();
-    const std::string bin = QCoreApplication::applicationDirPath().toStdString() + "/";
     for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt})
         LoadEngine(e, bin);
+    gAppPath = folder;
     {
         frmFileDiffs window;
         window.Form_Load("");
