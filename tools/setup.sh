@@ -6,7 +6,14 @@ cd "$(dirname "$0")/.."
 
 packages=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libgtest-dev libgmock-dev
           libbenchmark-dev libcurl4-openssl-dev zlib1g-dev openssl diffutils patch python3
-          clang-format w3m ccache qt6-webengine-dev desktop-file-utils appstream dpkg-dev)
+          clang-format w3m ccache
+          # the one-window report view
+          qt6-webengine-dev
+          # printing: a private print server with a PDF queue for the tests, PDF readers to
+          # check the pages, the metric twin of Courier New
+          cups printer-driver-cups-pdf poppler-utils fonts-liberation
+          # the desktop's default-application query; desktop entry, metainfo and package checks
+          xdg-utils desktop-file-utils appstream dpkg-dev)
 # Installed without their recommends: the office suite's writer alone (about 250 MB instead of
 # the whole suite) is the word-processor text engine; the core package alone cannot load HTML.
 lean_packages=(libreoffice-writer-nogui)

@@ -1,7 +1,7 @@
 #include "frame/NumericSort.h"
 
+#include <algorithm>
 #include <charconv>
-#include <utility>
 
 namespace orvane {
 
@@ -18,37 +18,9 @@ double Val(const std::string& Text) {
     return result.ec == std::errc() ? value : 0;
 }
 
-void QuickSortStrings(std::vector<std::string>& Items, long Low, long High) {
-    if (High <= Low) return;
-    auto at = [&](long i) -> std::string& { return Items[static_cast<std::size_t>(i - 1)]; };
-    const double pivot = Val(at((Low + High) / 2));
-    long i = Low, j = High;
-    while (i <= j) {
-        while (Val(at(i)) < pivot && i != High)
-            ++i;
-        while (pivot < Val(at(j)) && j != Low)
-            --j;
-        if (i <= j) {
-            std::swap(at(i), at(j));
-            ++i, --j;
-        }
-    }
-    if (j > Low) QuickSortStrings(Items, Low, j);
-    if (i < High) QuickSortStrings(Items, i, High);
-}
-
+// Bookmarks are row numbers: 9 comes before 10.
 void SortLongCollection(std::vector<long>& Items) {
-    if (Items.size() < 2) return;
-    std::vector<std::string> text;
-    text.reserve(Items.size());
-    for (long v : Items)
-        text.push_back(std::to_string(v));
-    QuickSortStrings(text, 1, static_cast<long>(text.size()));
-    std::vector<long> sorted;
-    sorted.reserve(text.size());
-    for (const std::string& t : text)
-        sorted.push_back(std::stol(t));
-    Items = std::move(sorted);
+    std::ranges::sort(Items);
 }
 
 } // namespace orvane

@@ -4,9 +4,6 @@
 
 namespace orvane {
 
-// Sorts numbers held as text by their value ("9" before "10"); Low and High are 1-based.
-void QuickSortStrings(std::vector<std::string>& Items, long Low, long High);
-
 // Replaces Items by the same values in ascending order; fewer than two items stay as they are.
 void SortLongCollection(std::vector<long>& Items);
 

@@ -25,6 +25,12 @@ class Prompter {
     // Returns false when the user cancels (the toolkit's error 32755).
     virtual bool OpenFileDialog(const std::string& title, const std::string& filter,
                                 std::string& path) = 0;
+    // A file name to write; false when the user cancels.
+    virtual bool SaveFileDialog(const std::string& title, const std::string& filter,
+                                std::string& path) {
+        (void)title, (void)filter, (void)path;
+        return false;
+    }
     // Presets from `font`; false when the user cancels.
     virtual bool FontDialog(const std::string& title, FontChoice& font) {
         (void)title, (void)font;

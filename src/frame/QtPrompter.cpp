@@ -57,6 +57,15 @@ bool QtPrompter::OpenFileDialog(const std::string& title, const std::string& fil
     return true;
 }
 
+bool QtPrompter::SaveFileDialog(const std::string& title, const std::string& filter,
+                                std::string& path) {
+    const QString chosen =
+        QFileDialog::getSaveFileName(QApplication::activeWindow(), Q(title), Q(path), Q(filter));
+    if (chosen.isEmpty()) return false;
+    path = chosen.toStdString();
+    return true;
+}
+
 bool QtPrompter::FontDialog(const std::string& title, FontChoice& font) {
     QFont preset(Q(font.Name), font.Size);
     preset.setBold(font.Bold);

@@ -10,6 +10,8 @@ class QtPrompter : public Prompter {
     bool InputBox(const std::string& prompt, const std::string& title, std::string& value) override;
     bool OpenFileDialog(const std::string& title, const std::string& filter,
                         std::string& path) override;
+    bool SaveFileDialog(const std::string& title, const std::string& filter,
+                        std::string& path) override;
     bool FontDialog(const std::string& title, FontChoice& font) override;
     void DoEvents() override;
     void ShowHelp(int context) override;

@@ -2,47 +2,15 @@
 
 #include "frame/KWCommon.h"
 
-#include <algorithm>
-#include <cctype>
-#include <cstdlib>
+#include <QMimeDatabase>
+#include <QProcess>
+#include <QStandardPaths>
 #include <fstream>
-#include <map>
 
 namespace orvane::desktop {
 namespace {
 
-std::vector<std::string> SplitList(const char* value, const std::string& fallback) {
-    std::vector<std::string> parts;
-    std::string text = value && *value ? value : fallback;
-    std::size_t start = 0;
-    while (start <= text.size()) {
-        const std::size_t end = std::min(text.find(':', start), text.size());
-        if (end > start) parts.push_back(AddTrailingBackslash(text.substr(start, end - start)));
-        start = end + 1;
-    }
-    return parts;
-}
-
-std::string Home() {
-    const char* h = std::getenv("HOME");
-    return h ? h : "";
-}
-
-std::vector<std::string> ConfigDirs() {
-    std::vector<std::string> dirs = SplitList(std::getenv("XDG_CONFIG_HOME"), Home() + "/.config");
-    for (auto& d : SplitList(std::getenv("XDG_CONFIG_DIRS"), "/etc/xdg"))
-        dirs.push_back(d);
-    return dirs;
-}
-
-std::vector<std::string> ApplicationDirs() {
-    std::vector<std::string> dirs;
-    for (auto& d : SplitList(std::getenv("XDG_DATA_HOME"), Home() + "/.local/share"))
-        dirs.push_back(d + "applications/");
-    for (auto& d : SplitList(std::getenv("XDG_DATA_DIRS"), "/usr/local/share:/usr/share"))
-        dirs.push_back(d + "applications/");
-    return dirs;
-}
+constexpr int kQueryTimeoutMs = 10000;
 
 // The value of `key` in `[group]` of an ini-like desktop file, or empty.
 std::string GroupValue(const std::string& file, const std::string& group, const std::string& key) {
@@ -61,16 +29,10 @@ std::string GroupValue(const std::string& file, const std::string& group, const 
     return {};
 }
 
-std::string FirstOfList(const std::string& list) {
-    return list.substr(0, list.find(';'));
-}
-
 std::string FindEntryFile(const std::string& desktopId) {
-    for (const std::string& dir : ApplicationDirs()) {
-        const std::string path = dir + desktopId;
-        if (std::ifstream(path).good()) return path;
-    }
-    return {};
+    return QStandardPaths::locate(QStandardPaths::ApplicationsLocation,
+                                  QString::fromStdString(desktopId))
+        .toStdString();
 }
 
 // Splits an Exec value into arguments: double quotes group, a backslash escapes inside them.
@@ -100,39 +62,21 @@ std::vector<std::string> SplitExec(const std::string& exec) {
 } // namespace
 
 std::string MimeTypeOfPath(const std::string& path) {
-    static const std::map<std::string, std::string> byExtension{
-        {"html", "text/html"},     {"htm", "text/html"},
-        {"shtml", "text/html"},    {"xhtml", "application/xhtml+xml"},
-        {"txt", "text/plain"},     {"text", "text/plain"},
-        {"wtd", "text/plain"},     {"css", "text/css"},
-        {"js", "text/javascript"}, {"xml", "application/xml"},
-        {"svg", "image/svg+xml"},  {"tmp", "text/html"},
-    };
-    std::string ext = GetFileExtension(path);
-    std::transform(ext.begin(), ext.end(), ext.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    const auto it = byExtension.find(ext);
-    return it == byExtension.end() ? "application/octet-stream" : it->second;
+    static const QMimeDatabase database;
+    const QMimeType type = database.mimeTypeForFile(QString::fromStdString(path));
+    return type.isValid() ? type.name().toStdString() : "application/octet-stream";
 }
 
 std::string DefaultApplication(const std::string& mimeType) {
-    std::vector<std::string> lists;
-    for (const std::string& d : ConfigDirs())
-        lists.push_back(d + "mimeapps.list");
-    for (const std::string& d : ApplicationDirs())
-        lists.push_back(d + "mimeapps.list");
-    for (const std::string& list : lists) {
-        for (const std::string& id :
-             {FirstOfList(GroupValue(list, "Default Applications", mimeType)),
-              FirstOfList(GroupValue(list, "Added Associations", mimeType))})
-            if (!id.empty() && !FindEntryFile(id).empty()) return id;
+    QProcess query;
+    query.start("xdg-mime", {"query", "default", QString::fromStdString(mimeType)});
+    // A desktop that does not answer in time names no program; the caller then offers a choice.
+    if (!query.waitForFinished(kQueryTimeoutMs) || query.exitCode() != 0) {
+        query.kill();
+        return {};
     }
-    for (const std::string& dir : ApplicationDirs()) {
-        const std::string id =
-            FirstOfList(GroupValue(dir + "mimeinfo.cache", "MIME Cache", mimeType));
-        if (!id.empty() && !FindEntryFile(id).empty()) return id;
-    }
-    return {};
+    const std::string id = QString::fromUtf8(query.readAllStandardOutput()).trimmed().toStdString();
+    return id.empty() || FindEntryFile(id).empty() ? std::string() : id;
 }
 
 std::vector<std::string> CommandFor(const std::string& desktopId, const std::string& target) {

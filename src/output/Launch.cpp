@@ -22,9 +22,7 @@ bool StartProgram(const std::vector<std::string>& command) {
 bool LoadFileInNotepad(const std::string& Path) {
     try {
         const std::string app = desktop::DefaultApplication("text/plain");
-        if (app.empty()) return false;
-        StartProgram(desktop::CommandFor(app, Path));
-        return true;
+        return !app.empty() && StartProgram(desktop::CommandFor(app, Path));
     } catch (...) {
         ReportUnexpectedError("modKWCommon.LoadFileInNotepad");
         return false;

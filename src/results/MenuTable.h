@@ -36,6 +36,7 @@ inline constexpr MenuEntry kMenuTable[] = {
     {2, "mnuFileClearAllBookmarks", "Clear All Bookmarks", ""},
     {2, "mnuFileHyphen4", "-", ""},
     {2, "mnuFilePrint", "Print...", "Ctrl+P"},
+    {2, "mnuFilePrintToPdf", "Print to PDF...", ""},
     {2, "mnuFileExit", "E&xit", "Ctrl+Q"},
     {1, "mnuOptions", "&Options", ""},
     {2, "mnuOptionsComparisonMode", "Comparison Mode", ""},

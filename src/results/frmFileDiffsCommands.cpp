@@ -8,8 +8,10 @@
 #include "frame/Globals.h"
 #include "frame/Prompter.h"
 #include "frame/RuntimeError.h"
+#include "output/HelpLinks.h"
 #include "results/Commands.h"
 #include "results/FlexGridView.h"
+#include "results/GridPrinting.h"
 #include "results/frmFileDiffs.h"
 
 #include <QAction>
@@ -39,6 +41,7 @@ constexpr Availability kAvailability[] = {
     {"mnuFilePreviousBookmark", false, false},
     {"mnuFileClearAllBookmarks", false, false},
     {"mnuFilePrint", false, true},
+    {"mnuFilePrintToPdf", false, true},
     {"mnuFileExit", true, true},
 };
 
@@ -107,6 +110,10 @@ void frmFileDiffs::ConnectCommands() {
         frmTestFileFormat dialogue(this);
         ShowModal(dialogue);
     });
+    c.On("mnuFilePrint", [this] { PrintGrids(*this, {}); });
+    c.On("mnuFilePrintToPdf", [this] { PrintGridsToPdf(*this); });
+    c.On("mnuHelpVisitKestwickWeb", [] { VisitHomePage(); });
+    c.On("mnuHelpContactUs", [] { ContactUs(); });
     c.On("mnuHelpContent", [] {
         prompter().ShowHelp(1);
         DoEvents();
@@ -153,7 +160,8 @@ void frmFileDiffs::KeepToAvailableOutputs() {
         unavailable->setToolTip("Not available in this version");
     }
     if (gViewOptions->ComparisonMode == ModeVisual) gViewOptions->ComparisonMode = ModeCode;
-    if (gViewOptions->OutputFormat == OutputOneWindow) gViewOptions->OutputFormat = OutputSideBySide;
+    if (gViewOptions->OutputFormat == OutputOneWindow)
+        gViewOptions->OutputFormat = OutputSideBySide;
     CheckOnly(*commands_, "mnuOptionsComparisonModeOption", 3, gViewOptions->ComparisonMode);
     CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, gViewOptions->OutputFormat);
 }

@@ -101,31 +101,6 @@ TEST_F(KWCommonTest, EngineStringFunctions) {
     EXPECT_EQ(kw::GetNextSlashPos("/a/b", 4), 0);
 }
 
-TEST(NumericSort, SortsByValueNotByText) {
-    std::vector<long> items{10, 9, 100, 1, 55, 9};
-    SortLongCollection(items);
-    EXPECT_EQ(items, (std::vector<long>{1, 9, 9, 10, 55, 100}));
-    std::vector<long> one{42};
-    SortLongCollection(one);
-    EXPECT_EQ(one, std::vector<long>{42});
-    std::vector<std::string> text{"10", "9", "-3", "200"};
-    QuickSortStrings(text, 1, 4);
-    EXPECT_EQ(text, (std::vector<std::string>{"-3", "9", "10", "200"}));
-}
-
-TEST(NumericSort, RandomCollectionsComeOutSorted) {
-    std::srand(7);
-    for (int round = 0; round < 200; ++round) {
-        std::vector<long> items(static_cast<std::size_t>(std::rand() % 40));
-        for (long& v : items)
-            v = std::rand() % 1000;
-        std::vector<long> expected = items;
-        std::sort(expected.begin(), expected.end());
-        SortLongCollection(items);
-        ASSERT_EQ(items, expected);
-    }
-}
-
 TEST(NumericSort, ValReadsTheLeadingNumber) {
     EXPECT_DOUBLE_EQ(Val("9.5pt"), 9.5);
     EXPECT_DOUBLE_EQ(Val(" 1 2 "), 12);

@@ -32,6 +32,13 @@ class RecordingPrompter : public Prompter {
         files.pop_front();
         return true;
     }
+    bool SaveFileDialog(const std::string& title, const std::string&, std::string& path) override {
+        saveTitles.push_back(title);
+        if (saveFiles.empty()) return false;
+        path = saveFiles.front();
+        saveFiles.pop_front();
+        return true;
+    }
     void ShowHelp(int context) override { helpContexts.push_back(context); }
     bool FontDialog(const std::string& title, FontChoice& font) override {
         fontTitles.push_back(title);
@@ -44,6 +51,8 @@ class RecordingPrompter : public Prompter {
     std::vector<RecordedBox> boxes;
     std::deque<std::string> inputs;
     std::deque<std::string> files;
+    std::deque<std::string> saveFiles;
+    std::vector<std::string> saveTitles;
     std::vector<int> helpContexts;
     std::deque<FontChoice> fonts;
     std::vector<std::string> fontTitles;
