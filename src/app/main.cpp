@@ -1,6 +1,6 @@
+#include "app/QtPrompter.h"
 #include "app/modDiff.h"
 #include "frame/CommandLine.h"
-#include "frame/QtPrompter.h"
 
 #include <QApplication>
 
@@ -12,8 +12,9 @@ int main(int argc, char* argv[]) {
     for (const QString& a : QApplication::arguments().mid(1))
         arguments.push_back(a.toStdString());
     const std::string commandLine = orvane::JoinArgumentsAsCommandLine(arguments);
-    if (!orvane::Main(QApplication::applicationDirPath().toStdString(), commandLine)) return 0;
+    orvane::Program program;
+    if (!program.Main(QApplication::applicationDirPath().toStdString(), commandLine)) return 0;
     const int status = QApplication::exec();
-    orvane::EndProgram();
+    program.EndProgram();
     return status;
 }

@@ -4,8 +4,8 @@
 #include "frame/CommandLine.h"
 #include "frame/EngineLibraries.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 #include "results/Commands.h"
 #include "results/DiffBarView.h"
@@ -14,6 +14,7 @@
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFileName.h"
 #include "settings/ProgramOptions.h"
+#include "settings/Session.h"
 
 #include <QAction>
 #include <QApplication>
@@ -152,13 +153,9 @@ void frmFileDiffs::Form_Unload() {
         grid->Clear();
         grid->SetRedraw(false);
     }
+    // The session's options and line differ stay alive until the program ends: a run still
+    // unwinding from a fill may read them.
     modIniFile::SaveProgramOptionsToIniFile(*this);
-    gViewOptions.reset();
-    DoEvents();
-    gFileDiff.reset();
-    DoEvents();
-    gExtractionOptions.reset();
-    DoEvents();
     DiffList_.clear();
     BookmarkList.clear();
     SearchTextList.clear();

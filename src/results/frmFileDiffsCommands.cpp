@@ -1,16 +1,16 @@
 // The main window's commands: which are available when, and the option commands.
-#include "compare/ViewOptions.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmHTMLEditor.h"
 #include "dialogs/frmTestFileFormat.h"
 #include "dialogs/frmTextExtractionOptions.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/Prompter.h"
 #include "frame/RuntimeError.h"
 #include "results/Commands.h"
 #include "results/FlexGridView.h"
 #include "results/frmFileDiffs.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QAction>
 
@@ -153,7 +153,8 @@ void frmFileDiffs::KeepToAvailableOutputs() {
         unavailable->setToolTip("Not available in this version");
     }
     if (gViewOptions->ComparisonMode == ModeVisual) gViewOptions->ComparisonMode = ModeCode;
-    if (gViewOptions->OutputFormat == OutputOneWindow) gViewOptions->OutputFormat = OutputSideBySide;
+    if (gViewOptions->OutputFormat == OutputOneWindow)
+        gViewOptions->OutputFormat = OutputSideBySide;
     CheckOnly(*commands_, "mnuOptionsComparisonModeOption", 3, gViewOptions->ComparisonMode);
     CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, gViewOptions->OutputFormat);
 }

@@ -1,8 +1,8 @@
 // The two file boxes: their lists of recent inputs, drops, and the rule that results never
 // stand beside a changed path.
 #include "dialogs/AutoCompletePath.h"
+#include "dialogs/frmSelectFile.h"
 #include "frame/ErrorReporter.h"
-#include "intake/frmSelectFile.h"
 #include "results/frmFileDiffs.h"
 #include "settings/RecentFiles.h"
 

@@ -1,13 +1,13 @@
 #include "settings/ProgramOptions.h"
 
-#include "compare/ViewOptions.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/RuntimeError.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFile.h"
 #include "settings/IniFileName.h"
 #include "settings/NumericText.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <charconv>
 #include <span>

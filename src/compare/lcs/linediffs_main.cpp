@@ -3,7 +3,7 @@
 // different.
 #include "compare/StringDiffs.h"
 #include "compare/lcs/CodePoints.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 
 #include <fstream>
