@@ -3,10 +3,11 @@
 // into PDF in the same run.
 //   print_bench [LINES] [OUTPUT-FOLDER]   (default: 100000, a temporary folder)
 #include "compare/FileDiffEngine.h"
-#include "compare/ViewOptions.h"
+#include "settings/ViewOptions.h"
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
-#include "frame/QtPrompter.h"
+#include "frame/ProgramFolder.h"
+#include "settings/Session.h"
+#include "app/QtPrompter.h"
 #include "results/GridPrinting.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"

@@ -3,10 +3,11 @@
 // the peak memory, beside GNU diff's time on the same pair.
 //   window_bench [LINES...]   (default: 100000 1000000)
 #include "compare/FileDiffEngine.h"
-#include "compare/ViewOptions.h"
-#include "frame/Globals.h"
+#include "settings/ViewOptions.h"
+#include "frame/ProgramFolder.h"
+#include "settings/Session.h"
 #include "frame/KWCommon.h"
-#include "frame/QtPrompter.h"
+#include "app/QtPrompter.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"
 

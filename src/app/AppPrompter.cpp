@@ -1,7 +1,7 @@
 #include "app/AppPrompter.h"
 
 #include "dialogs/frmHelp.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 
 namespace orvane {
 

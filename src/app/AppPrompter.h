@@ -1,5 +1,5 @@
 #pragma once
-#include "frame/QtPrompter.h"
+#include "app/QtPrompter.h"
 
 namespace orvane {
 

@@ -35,8 +35,9 @@ int main(int argc, char* argv[]) {
     const orvane::StartDecision start = orvane::DecideStart(ArgumentsOf(QApplication::arguments()));
     std::cerr << start.Err;
     const std::string commandLine = orvane::JoinArgumentsAsCommandLine(start.Arguments);
-    if (!orvane::Main(QApplication::applicationDirPath().toStdString(), commandLine)) return 0;
+    orvane::Program program;
+    if (!program.Main(QApplication::applicationDirPath().toStdString(), commandLine)) return 0;
     const int status = QApplication::exec();
-    orvane::EndProgram();
+    program.EndProgram();
     return status;
 }

@@ -2,15 +2,18 @@
 
 #include "app/frmSplash.h"
 #include "compare/FileDiffEngine.h"
-#include "compare/ViewOptions.h"
 #include "frame/EngineLibraries.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
+#include <QApplication>
+#include <QPointer>
 #include <filesystem>
 
 namespace orvane {
@@ -24,21 +27,32 @@ void ShowMissingLibraryBox(const std::string& moduleName) {
                       MsgIcon::Critical, "Problem with a required DLL/OCX");
 }
 
+QPointer<frmFileDiffs>& MainWindow() {
+    static QPointer<frmFileDiffs> window;
+    return window;
+}
+
 void ShowMainWindow(const std::string& commandLine) {
     auto* window = new frmFileDiffs;
     window->setAttribute(Qt::WA_DeleteOnClose);
+    MainWindow() = window;
     window->Form_Load(commandLine);
 }
 
 } // namespace
 
-bool Main(const std::string& appFolder, const std::string& commandLine) {
+Program::~Program() {
+    EndProgram();
+}
+
+bool Program::Main(const std::string& appFolder, const std::string& commandLine) {
     std::string moduleName;
     try {
         gAppPath = AddTrailingBackslash(appFolder);
         if (!ProbeRequiredEngines(gAppPath, moduleName))
             throw RuntimeError(err::CannotCreateObject);
         gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+        RouteErrorsToReportRun();
         moduleName = EngineFileName(Engine::LineDiff);
         gFileDiff = std::make_unique<FileDiffEngine>();
         gExtractionOptions = std::make_unique<clsExtractionOptions>();
@@ -56,7 +70,19 @@ bool Main(const std::string& appFolder, const std::string& commandLine) {
     }
 }
 
-void EndProgram() {
+void Program::EndProgram() {
+    if (ended_) return;
+    ended_ = true;
+    // The window loop can end without the window's own close (the last window was hidden, or the
+    // loop was quit): close it here so that the options are saved on every orderly way out.
+    if (QPointer<frmFileDiffs>& window = MainWindow()) {
+        window->close();
+        delete window.data();
+    }
+    SetErrorTextSink({});
+    gFileDiff.reset(); // lives in the line differ library
+    gExtractionOptions.reset();
+    gViewOptions.reset();
     FreeEngines();
 }
 

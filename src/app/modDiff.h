@@ -3,11 +3,26 @@
 
 namespace orvane {
 
-// Start-up: proves the engine libraries load, creates the globals and shows the splash, which
-// then shows the main window with `commandLine`. False when the program must end at once.
-bool Main(const std::string& appFolder, const std::string& commandLine);
+// The program's run from start to end. It owns the session: the options and the line differ are
+// created by Main and released by EndProgram, before the engine libraries they live in are
+// unloaded; its destructor ends the program on every way out that did not.
+class Program {
+  public:
+    Program() = default;
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
 
-// The orderly end after the window loop: unloads the engine libraries.
-void EndProgram();
+    // Start-up: proves the engine libraries load, creates the session and shows the splash, which
+    // then shows the main window with `commandLine`. False when the program must end at once.
+    bool Main(const std::string& appFolder, const std::string& commandLine);
+
+    // The orderly end after the window loop: a main window still open is closed (which saves the
+    // options), then the session is released and the engine libraries unloaded. Runs once.
+    void EndProgram();
+
+  private:
+    bool ended_ = false;
+};
 
 } // namespace orvane

@@ -1,6 +1,5 @@
 #include "compare/DiffRows.h"
 
-#include "frame/Prompter.h"
 #include "frame/RuntimeError.h"
 #include "frame/YieldPoint.h"
 
@@ -30,20 +29,17 @@ Range ToRange(std::string_view s) {
     return {ToNumber(s.substr(0, comma)), ToNumber(s.substr(comma + 1))};
 }
 
-void InsertBlankRows(FlexGrid& grid, long index, long count) {
-    for (long i = 0; i < count; ++i)
-        grid.AddItem("", index);
-}
-
-void ColourRows(FlexGrid& grid, long first, long last, Colour colour) {
-    grid.SetRow(first);
-    grid.SetRowSel(last);
-    grid.SetCellBackColor(colour);
+// Row numbers are final when they are given: every later hunk lies below.
+void Mark(AlignedSide& side, long first, long count, AlignedRow row) {
+    if (count <= 0 || first < 0) return;
+    const auto end = static_cast<std::size_t>(first + count);
+    if (side.size() < end) side.resize(end);
+    std::fill(side.begin() + first, side.begin() + static_cast<long>(end), row);
 }
 
 class HunkWalk {
   public:
-    HunkWalk(FlexGrid& o, FlexGrid& r, DiffList& l) : original_(o), revised_(r), list_(l) {}
+    explicit HunkWalk(Alignment& a) : a_(a) {}
 
     void Apply(const std::string& line) {
         if (line.empty() || !std::isdigit(static_cast<unsigned char>(line[0]))) return;
@@ -60,95 +56,63 @@ class HunkWalk {
     }
 
   private:
+    static constexpr AlignedRow kGap{RowKind::Gap, true};
+    static constexpr AlignedRow kOrphan{RowKind::Orphan, false};
+
     void Added(long after, Range lines) {
-        InsertBlankRows(original_, after + addedToOriginal_ + 1, lines.Count());
+        Mark(a_.Original, after + addedToOriginal_ + 1, lines.Count(), kGap);
         addedToOriginal_ += lines.Count();
         const long first = lines.First + addedToRevised_;
-        ColourRows(revised_, first, lines.Last + addedToRevised_, ColourOrphanRows);
-        list_.push_back(FormatDiffItem({first, lines.Count(), ColourOrphanRows}));
+        Mark(a_.Revised, first, lines.Count(), kOrphan);
+        a_.Diffs.push_back({first, lines.Count(), DiffKind::Orphan});
     }
 
     void Deleted(Range lines, long after) {
         const long first = lines.First + addedToOriginal_;
-        ColourRows(original_, first, lines.Last + addedToOriginal_, ColourOrphanRows);
-        InsertBlankRows(revised_, after + addedToRevised_ + 1, lines.Count());
+        Mark(a_.Original, first, lines.Count(), kOrphan);
+        Mark(a_.Revised, after + addedToRevised_ + 1, lines.Count(), kGap);
         addedToRevised_ += lines.Count();
-        list_.push_back(FormatDiffItem({first, lines.Count(), ColourOrphanRows}));
+        a_.Diffs.push_back({first, lines.Count(), DiffKind::Orphan});
     }
 
     void Changed(Range left, Range right) {
         const long baseOriginal = addedToOriginal_, baseRevised = addedToRevised_;
-        if (right.Count() > left.Count()) {
-            const long pad = right.Count() - left.Count();
-            InsertBlankRows(original_, left.Last + addedToOriginal_ + 1, pad);
-            addedToOriginal_ += pad;
-        }
-        if (left.Count() > right.Count()) {
-            const long pad = left.Count() - right.Count();
-            InsertBlankRows(revised_, right.Last + addedToRevised_ + 1, pad);
-            addedToRevised_ += pad;
-        }
         const long rows = std::max(left.Count(), right.Count());
-        const long first = left.First + baseOriginal, last = left.Last + addedToOriginal_;
-        ColourRows(original_, first, last, ColourDifferRows);
-        ColourRows(revised_, first, last, ColourDifferRows);
-        list_.push_back(FormatDiffItem({right.First + baseRevised, rows, ColourDifferRows}));
+        const long first = left.First + baseOriginal;
+        Pad(a_.Original, first, left.Count(), rows);
+        Pad(a_.Revised, first, right.Count(), rows);
+        addedToOriginal_ += rows - left.Count();
+        addedToRevised_ += rows - right.Count();
+        a_.Diffs.push_back({right.First + baseRevised, rows, DiffKind::Changed});
     }
 
-    FlexGrid& original_;
-    FlexGrid& revised_;
-    DiffList& list_;
+    // A changed block: the side's own lines, then inserted rows up to the longer side.
+    static void Pad(AlignedSide& side, long first, long lines, long rows) {
+        Mark(side, first, lines, {RowKind::Changed, false});
+        Mark(side, first + lines, rows - lines, {RowKind::Changed, true});
+    }
+
+    Alignment& a_;
     long addedToOriginal_ = 0;
     long addedToRevised_ = 0;
 };
 
-void EvenUpRows(FlexGrid& original, FlexGrid& revised) {
-    const long rows = std::max(original.Rows(), revised.Rows());
-    while (original.Rows() < rows)
-        original.AddItem("");
-    while (revised.Rows() < rows)
-        revised.AddItem("");
-}
-
 } // namespace
 
-std::string FormatDiffItem(const DiffItem& item) {
-    return std::to_string(item.FirstRow) + "-" + std::to_string(item.RowCount) + "-" +
-           std::to_string(item.ColourValue);
-}
-
-bool ParseDiffItem(const std::string& text, DiffItem& item) {
-    const std::size_t a = text.find('-');
-    const std::size_t b = a == std::string::npos ? a : text.find('-', a + 1);
-    if (b == std::string::npos) return false;
+Alignment AlignRows(const DiffOutput& Engine) {
+    Alignment result;
     try {
-        item.FirstRow = ToNumber(std::string_view(text).substr(0, a));
-        item.RowCount = ToNumber(std::string_view(text).substr(a + 1, b - a - 1));
-        item.ColourValue = static_cast<Colour>(ToNumber(std::string_view(text).substr(b + 1)));
-        return true;
-    } catch (const RuntimeError&) {
-        return false;
-    }
-}
-
-bool InsertDiffRowsInGrids(const DiffOutput& Engine, FlexGrid& original, FlexGrid& revised,
-                           DiffList& list) {
-    try {
-        HunkWalk walk(original, revised, list);
+        HunkWalk walk(result);
         YieldPoint yield;
         const long count = Engine.OutputLineCount();
         for (long index = 0; index < count; ++index) {
             yield();
             walk.Apply(Engine.OutputLine(index));
         }
-        return true;
     } catch (...) {
-        EvenUpRows(original, revised);
-        prompter().MsgBox("Not able to show the file differences.\r\n\r\nThis can happen if the "
-                          "files contain non-ASCII characters.",
-                          MsgIcon::Critical, "Show File Differences");
-        return false;
+        result.Complete = false;
     }
+    return result;
 }
 
 } // namespace orvane

@@ -6,6 +6,8 @@
 
 namespace orvane {
 
+std::unique_ptr<FileDiffEngine> gFileDiff;
+
 struct FileDiffEngine::Api {
     decltype(&LD_Create) create;
     decltype(&LD_Destroy) destroy;

@@ -34,4 +34,8 @@ class FileDiffEngine : public DiffOutput {
     LdEngine* engine_;
 };
 
+// The session's line differ. It lives in the engine library, so the application object creates it
+// after the library is loaded and releases it before the library is unloaded.
+extern std::unique_ptr<FileDiffEngine> gFileDiff;
+
 } // namespace orvane

@@ -1,9 +1,9 @@
 #include "dialogs/frmHTMLEditor.h"
 
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
+#include "settings/Session.h"
 
 #include <QGridLayout>
 #include <QLabel>

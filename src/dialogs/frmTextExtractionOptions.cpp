@@ -1,10 +1,10 @@
 #include "dialogs/frmTextExtractionOptions.h"
 
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/NumericText.h"
+#include "settings/Session.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 #include "dialogs/frmWhatAndHow.h"
 
-#include "compare/ViewOptions.h"
-#include "frame/Globals.h"
 #include "frame/Prompter.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #include "frame/EngineLibraries.h"
 
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "frame/RuntimeError.h"
 
 #include <array>

@@ -1,7 +1,6 @@
 #include "frame/ErrorReporter.h"
 
-#include "compare/ViewOptions.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 #include "frame/SettingsFolder.h"
 
@@ -37,7 +36,16 @@ void AppendDetailRecord(const std::string& errorText, const std::string& detail)
     if (!out) throw RuntimeError(err::PathFileAccess, ErrorDescription(err::PathFileAccess), errno);
 }
 
+ErrorTextSink& Sink() {
+    static ErrorTextSink sink;
+    return sink;
+}
+
 } // namespace
+
+void SetErrorTextSink(ErrorTextSink sink) {
+    Sink() = std::move(sink);
+}
 
 std::string GetAPIErrorText(long errorNumber) {
     char buf[1024];
@@ -88,10 +96,7 @@ void ReportUnexpectedError(const std::string& Location, const std::string& Detai
                 "* If this problem persists, please contact our technical support staff for "
                 "assistance." +
                 kLineEnd + "  (Refer to the Troubleshooting section of the Help file for details.)";
-        if (gViewOptions && gViewOptions->RunFromCommandLine) {
-            gViewOptions->CommandLineMessage = text;
-            return;
-        }
+        if (Sink() && Sink()(text)) return;
         prompter().MsgBox(text, MsgIcon::Exclamation, "Unexpected Error in " + Location);
     } catch (...) {
         const ErrorInfo inner = CurrentErrorInfo();

@@ -44,34 +44,4 @@ std::string ReadFileBytes(const std::string& path) {
     return bytes;
 }
 
-bool IsValidUtf8(std::string_view s) {
-    const auto* p = reinterpret_cast<const unsigned char*>(s.data());
-    const auto* end = p + s.size();
-    while (p < end) {
-        if (*p < 0x80) {
-            ++p;
-            continue;
-        }
-        int extra;
-        unsigned long cp;
-        if ((*p & 0xE0) == 0xC0)
-            extra = 1, cp = *p & 0x1F;
-        else if ((*p & 0xF0) == 0xE0)
-            extra = 2, cp = *p & 0x0F;
-        else if ((*p & 0xF8) == 0xF0)
-            extra = 3, cp = *p & 0x07;
-        else
-            return false;
-        if (end - p <= extra) return false;
-        for (int i = 1; i <= extra; ++i) {
-            if ((p[i] & 0xC0) != 0x80) return false;
-            cp = (cp << 6) | (p[i] & 0x3F);
-        }
-        static constexpr unsigned long kMin[] = {0, 0x80, 0x800, 0x10000};
-        if (cp < kMin[extra] || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF)) return false;
-        p += extra + 1;
-    }
-    return true;
-}
-
 } // namespace orvane

@@ -8,7 +8,4 @@ namespace orvane {
 // system error) when it cannot.
 std::string ReadFileBytes(const std::string& path);
 
-// True when the bytes are well-formed UTF-8 (no overlongs, no surrogates).
-bool IsValidUtf8(std::string_view bytes);
-
 } // namespace orvane

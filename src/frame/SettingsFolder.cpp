@@ -1,6 +1,6 @@
 #include "frame/SettingsFolder.h"
 
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,14 +1,14 @@
 #include "intake/ConvertFormats.h"
 
-#include "compare/ViewOptions.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
 #include "intake/Detagger.h"
 #include "intake/Formats.h"
 #include "intake/OfficeConverter.h"
 #include "settings/ExtractionOptions.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <filesystem>
 

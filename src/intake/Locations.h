@@ -1,7 +1,7 @@
 #pragma once
 // What an input names, decided alike by the compare driver and the view commands, and the words
 // both use when it cannot be had.
-#include "compare/ViewOptions.h"
+#include "settings/ViewOptions.h"
 
 #include <string>
 

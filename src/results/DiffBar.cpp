@@ -14,13 +14,11 @@ float RowHeight(long rowSpan, int barHeight) {
 std::vector<BarBand> DiffBarBands(const DiffList& list, long rowSpan, int barHeight) {
     std::vector<BarBand> bands;
     const float rowHeight = RowHeight(rowSpan, barHeight);
-    for (const std::string& entry : list) {
-        DiffItem item;
-        if (!ParseDiffItem(entry, item)) continue;
+    for (const DiffItem& item : list) {
         const int height = RoundToInt32(rowHeight * static_cast<float>(item.RowCount));
         const int top = RoundToInt32(
             barHeight * (static_cast<double>(item.FirstRow - 1) / static_cast<double>(rowSpan)));
-        if (height > 0) bands.push_back({top, top + height, item.ColourValue});
+        if (height > 0) bands.push_back({top, top + height, DiffColour(item.Kind)});
     }
     return bands;
 }

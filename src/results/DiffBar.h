@@ -2,6 +2,7 @@
 // The difference bar's arithmetic: bands of the difference list at the bar's scale, the mark of
 // the current row, and the row under a press. Whole numbers round half to even.
 #include "compare/DiffRows.h"
+#include "results/DiffPaint.h"
 
 #include <vector>
 

@@ -6,6 +6,7 @@
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
 #include "frame/YieldPoint.h"
+#include "text/Utf8.h"
 
 namespace orvane {
 namespace {
@@ -28,7 +29,7 @@ std::string CellText(std::string_view line, long number, bool showNumbers) {
 
 void LoadFileIntoGrid(const std::string& path, FlexGrid& grid, bool showNumbers) {
     const std::string bytes = ReadFileBytes(path);
-    grid.SetEncoding(IsValidUtf8(bytes) ? TextEncoding::Utf8 : TextEncoding::Windows1252);
+    grid.SetEncoding(text::IsValidUtf8(bytes) ? TextEncoding::Utf8 : TextEncoding::Windows1252);
     long counter = 0;
     YieldPoint yield;
     linediff::ForEachLine(bytes, [&](std::string_view line) {

@@ -2,30 +2,33 @@
 
 #include "frame/RuntimeError.h"
 
+#include <algorithm>
+
 namespace orvane {
 namespace {
 
-long FirstRowOf(const std::string& entry) {
-    return std::stol(entry.substr(0, entry.find('-')));
+// The list is in row order: each command is one binary search.
+bool BeforeRow(const DiffItem& item, long row) {
+    return item.FirstRow < row;
 }
 
 } // namespace
 
 long NextDiffRow(const DiffList& list, long current) {
-    for (const std::string& entry : list)
-        if (FirstRowOf(entry) > current) return FirstRowOf(entry);
-    return kNoMoreDiffs;
+    const auto it =
+        std::upper_bound(list.begin(), list.end(), current,
+                         [](long row, const DiffItem& item) { return row < item.FirstRow; });
+    return it == list.end() ? kNoMoreDiffs : it->FirstRow;
 }
 
 long PreviousDiffRow(const DiffList& list, long current) {
-    for (auto it = list.rbegin(); it != list.rend(); ++it)
-        if (FirstRowOf(*it) < current) return FirstRowOf(*it);
-    return kNoMoreDiffs;
+    const auto it = std::lower_bound(list.begin(), list.end(), current, BeforeRow);
+    return it == list.begin() ? kNoMoreDiffs : std::prev(it)->FirstRow;
 }
 
 long DiffRowAt(const DiffList& list, std::size_t position) {
     if (position < 1 || position > list.size()) throw RuntimeError(err::SubscriptOutOfRange);
-    return FirstRowOf(list[position - 1]);
+    return list[position - 1].FirstRow;
 }
 
 } // namespace orvane

@@ -4,8 +4,8 @@
 #include "frame/CommandLine.h"
 #include "frame/EngineLibraries.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 #include "frame/SettingsFolder.h"
 #include "intake/download/Download.h"
@@ -18,6 +18,7 @@
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFileName.h"
 #include "settings/ProgramOptions.h"
+#include "settings/Session.h"
 
 #include <QAction>
 #include <QApplication>
@@ -183,13 +184,9 @@ void frmFileDiffs::Form_Unload() {
         grid->Clear();
         grid->SetRedraw(false);
     }
+    // The session's options and line differ stay alive until the program ends: a run still
+    // unwinding from a fill may read them.
     modIniFile::SaveProgramOptionsToIniFile(*this);
-    gViewOptions.reset();
-    DoEvents();
-    gFileDiff.reset();
-    DoEvents();
-    gExtractionOptions.reset();
-    DoEvents();
     DiffList_.clear();
     BookmarkList.clear();
     SearchTextList.clear();

@@ -1,11 +1,12 @@
 #pragma once
 // The main window: two file boxes, the two result grids, the detail pane, and the driver of every
 // comparison.
+#include "compare/CompareDriver.h"
 #include "compare/DiffRows.h"
-#include "compare/ViewOptions.h"
 #include "results/FlexGrid.h"
 #include "results/WindowLayout.h"
 #include "settings/OptionsWindow.h"
+#include "settings/ViewOptions.h"
 
 #include <QDialog>
 #include <QMainWindow>
@@ -34,7 +35,7 @@ inline constexpr const char* kDetailPrompt =
 // Values of the window's mouse pointer that the program tests.
 enum MousePointerValue { PointerDefault = 0, PointerHourglass = 11 };
 
-class frmFileDiffs : public QMainWindow, public OptionsWindow {
+class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSurroundings {
     Q_OBJECT
   public:
     explicit frmFileDiffs(QWidget* parent = nullptr);
@@ -47,17 +48,15 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     void CompareFiles(bool SkipDialogue);
     void mnuFileCompare_Click();
 
-    void CompareFilesAndStoreResultsInGlobalDiffObject(std::string& Message, bool& Ok);
-    void DisplayComparisonResultsInGrid(bool& Ok);
-    void ResetResultsDisplay();
+    void ResetResultsDisplay() override;
     void ShowLineDiffPrompt();
-    void ShowGridsOrVisualReport(bool ShowGrids);
+    void ShowGridsOrVisualReport(bool ShowGrids) override;
     void StartAnimation();
     void StopAnimationAndClearStatus();
     void ResetDiffState();
     // The difference bar.
     void PrepareDiffsBarForNewComparison();
-    void DrawDiffBars(bool& Ok);
+    bool DrawDiffBars() override;
     void MarkCurrentRowInDiffsBar();
     void ScrollFilesToPointInDiffBar(float Y);
     void DiffsBar_MouseDown(float Y);
@@ -180,19 +179,23 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     std::string CurrentLine(Side side) const;
     void SetMousePointer(int value);
     void Form_Unload();
-    // The driver's steps, one routine per concern.
-    bool CheckInputs(std::string& original, std::string& revised, int types[2]);
-    void Refuse(const std::string& title, const std::string& text);
-    void RunGridPath();
-    void RefuseOneWindowReport();
-    void OfferComparisonDialogue();
-    bool FetchWebPages();
-    bool DetectFormats();
-    bool ExtractTexts();
+    // What the compare driver asks of the window.
+    std::string InputText(Side side) const override;
+    void OfferComparisonDialogue() override;
+    void SetBusyPointer(bool busy) override;
+    void StartProgress() override { StartAnimation(); }
+    void StopProgress() override { StopAnimationAndClearStatus(); }
+    void PrepareForNewComparison() override;
+    void ThawDisplay() override;
+    bool FillFromAlignedRows(const std::string& original, const std::string& revised,
+                             const Alignment& alignment) override;
+    void ShowFirstDifference() override;
+    void RecordRecentFiles(const std::string& original, const std::string& revised) override {
+        AddFilesToIni(original, revised);
+    }
     void SelectFile(Side side);
     bool ViewerSource(Side side, std::string& source, bool& isUrl);
     std::string DownloadForViewer(Side side, const std::string& url);
-    void DeleteTemporaryFiles();
 
     FlexGrid originalGrid_;
     FlexGrid revisedGrid_;
@@ -214,7 +217,6 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow {
     std::vector<std::string> SearchTextList;
     long PreviousArrowRow = 0;
     int mousePointer_ = PointerDefault;
-    std::string originalFormat_, revisedFormat_; // of the current run
     bool unloaded_ = false;
 };
 

@@ -1,11 +1,9 @@
 // The main window's commands: which are available when, and the option commands.
-#include "compare/ViewOptions.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmHTMLEditor.h"
 #include "dialogs/frmTestFileFormat.h"
 #include "dialogs/frmTextExtractionOptions.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/Prompter.h"
 #include "frame/RuntimeError.h"
 #include "output/HelpLinks.h"
@@ -13,6 +11,8 @@
 #include "results/FlexGridView.h"
 #include "results/GridPrinting.h"
 #include "results/frmFileDiffs.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QAction>
 

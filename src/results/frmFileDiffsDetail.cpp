@@ -1,9 +1,7 @@
 // The detail pane: the current row's two lines in full, with what differs in red.
 #include "compare/StringDiffs.h"
-#include "compare/ViewOptions.h"
 #include "compare/Words.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/Prompter.h"
 #include "results/DetailPainter.h"
 #include "results/DetailRuns.h"
@@ -11,6 +9,8 @@
 #include "results/GridFill.h"
 #include "results/LineDetailView.h"
 #include "results/frmFileDiffs.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QApplication>
 

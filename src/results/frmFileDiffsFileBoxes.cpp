@@ -2,8 +2,8 @@
 // stand beside a changed path.
 #include "dialogs/AutoCompletePath.h"
 #include "dialogs/PathCompletion.h"
+#include "dialogs/frmSelectFile.h"
 #include "frame/ErrorReporter.h"
-#include "intake/frmSelectFile.h"
 #include "results/frmFileDiffs.h"
 #include "settings/RecentFiles.h"
 

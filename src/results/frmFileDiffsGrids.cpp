@@ -1,10 +1,10 @@
 // What the two grids do when the user works with them; each handler serves both grids.
-#include "compare/ViewOptions.h"
-#include "frame/Globals.h"
 #include "results/Commands.h"
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
 #include "results/frmFileDiffs.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QAction>
 #include <QComboBox>

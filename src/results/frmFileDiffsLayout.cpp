@@ -1,13 +1,13 @@
 // The main window's regions on screen: the twips arithmetic of WindowLayout applied to the
 // widgets, the splitter handle, and drops on the file boxes.
-#include "compare/ViewOptions.h"
 #include "dialogs/AutoCompletePath.h"
-#include "frame/Globals.h"
 #include "results/Commands.h"
 #include "results/DiffBarView.h"
 #include "results/FlexGridView.h"
 #include "results/LineDetailView.h"
 #include "results/frmFileDiffs.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QComboBox>
 #include <QDragEnterEvent>

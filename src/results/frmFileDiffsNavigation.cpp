@@ -1,6 +1,5 @@
 // Moving from difference to difference, and the difference bar that shows them all.
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/Prompter.h"
 #include "results/DiffBarView.h"
 #include "results/Navigation.h"
@@ -16,14 +15,14 @@ void frmFileDiffs::PrepareDiffsBarForNewComparison() {
     }
 }
 
-void frmFileDiffs::DrawDiffBars(bool& Ok) {
-    Ok = false;
+bool frmFileDiffs::DrawDiffBars() {
     try {
         pctContainer->ShowBands(
             DiffBarBands(DiffList_, originalGrid_.Rows() - 1, pctContainer->BarHeight()));
-        Ok = true;
+        return true;
     } catch (...) {
         ReportUnexpectedError("frmFileDiffs.DrawDiffBars");
+        return false;
     }
 }
 

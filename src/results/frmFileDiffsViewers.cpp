@@ -1,8 +1,6 @@
 // The View menu: one input shown outside the program, in the browser, as source in the editor,
 // or as its text in the text editor. Each command acts on what its file box holds now.
-#include "compare/ViewOptions.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
 #include "intake/ConvertFormats.h"
@@ -11,6 +9,8 @@
 #include "intake/download/Download.h"
 #include "output/Launch.h"
 #include "results/frmFileDiffs.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QComboBox>
 #include <cstdio>

@@ -1,7 +1,7 @@
 #include "settings/IniFile.h"
 
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 #include "frame/RuntimeError.h"
 #include "frame/SettingsFolder.h"

@@ -1,15 +1,16 @@
 #include "settings/ProgramOptions.h"
 
-#include "compare/ViewOptions.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
 #include "frame/RuntimeError.h"
+#include "frame/SettingsFolder.h"
 #include "settings/AtomicWrite.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFile.h"
 #include "settings/IniFileName.h"
 #include "settings/NumericText.h"
 #include "settings/ProfileFile.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <charconv>
 #include <span>
@@ -235,7 +236,7 @@ void ReadProgramOptionsFromIniFile(OptionsWindow& window) {
     try {
         RequireOptionObjects();
         // A save killed mid-write leaves its temporary file; it is never finished, so it goes.
-        RemoveStaleTemporaries(gAppPath + ProgramIniFileName());
+        RemoveStaleTemporaries(SettingsFolder() + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
         KeyGuard guard;
@@ -253,7 +254,7 @@ void SaveProgramOptionsToIniFile(OptionsWindow& window) {
     try {
         RequireOptionObjects();
         // Every key in one rewrite: a kill leaves the old settings or the new, never a mix.
-        profile::WriteBatch batch(gAppPath + ProgramIniFileName());
+        profile::WriteBatch batch(SettingsFolder() + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
         SaveCompareSection(ini, *gViewOptions);

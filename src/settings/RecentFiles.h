@@ -1,7 +1,7 @@
 #pragma once
 // The lists of inputs last compared, one per side, most recent first, twenty places each, kept in
 // the settings file at once after each good comparison.
-#include "compare/ViewOptions.h"
+#include "settings/ViewOptions.h"
 
 #include <string>
 #include <vector>

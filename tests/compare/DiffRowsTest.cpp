@@ -1,5 +1,6 @@
 #include "compare/DiffRows.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
+#include "results/DiffPaint.h"
 #include "results/GridFill.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
@@ -41,7 +42,9 @@ void Apply(Applied& a, const std::string& left, const std::string& right,
     gAppPath = ORVANE_BIN_DIR;
     ASSERT_TRUE(LoadFilesIntoGrids(dir.Write("a", left), dir.Write("b", right), a.original,
                                    a.revised, true));
-    a.ok = InsertDiffRowsInGrids(ScriptedOutput(std::move(hunks)), a.original, a.revised, a.list);
+    const Alignment alignment = AlignRows(ScriptedOutput(std::move(hunks)));
+    a.ok = PaintAlignment(alignment, a.original, a.revised);
+    a.list = alignment.Diffs;
 }
 
 std::string Kinds(const FlexGrid& g) {
@@ -61,7 +64,9 @@ TEST(DiffRows, WorkedExampleOfThreeHunks) {
     Apply(a, Lines(8, 'a'), Lines(9, 'b'),
           {"2c2,3", "< a2", "---", "> b2", "> b3", "4d4", "< a4", "7a8", "> b8"});
     ASSERT_TRUE(a.ok);
-    EXPECT_EQ(a.list, (DiffList{"2-2-14270416", "5-1-10605047", "9-1-10605047"}));
+    EXPECT_EQ(
+        a.list,
+        (DiffList{{2, 2, DiffKind::Changed}, {5, 1, DiffKind::Orphan}, {9, 1, DiffKind::Orphan}}));
     EXPECT_EQ(a.original.Rows(), 12); // ten data rows, the fixed row and the trailing blank row
     EXPECT_EQ(a.revised.Rows(), 12);
     EXPECT_EQ(Kinds(a.original), ".cc.o..._._");
@@ -74,7 +79,7 @@ TEST(DiffRows, ChangedAndAddedAtTheEnd) {
     Applied a;
     Apply(a, "A\nB\nC\nD\n", "A\nX\nC\nD\nE\n", {"2c2", "4a5"});
     ASSERT_TRUE(a.ok);
-    EXPECT_EQ(a.list, (DiffList{"2-1-14270416", "5-1-10605047"}));
+    EXPECT_EQ(a.list, (DiffList{{2, 1, DiffKind::Changed}, {5, 1, DiffKind::Orphan}}));
     EXPECT_EQ(a.original.Rows(), 7);
     EXPECT_EQ(a.revised.Rows(), 7);
     EXPECT_EQ(a.original.RowText(5), "");
@@ -110,21 +115,34 @@ TEST_P(Hunks, AlignAndColourTheRows) {
 INSTANTIATE_TEST_SUITE_P(
     Edges, Hunks,
     ::testing::Values(
-        HunkCase{"AddedAtTop", 2, 4, {"0a1,2"}, "__.._", "oo.._", {"1-2-10605047"}},
-        HunkCase{"DeletedAtTop", 4, 2, {"1,2d0"}, "oo.._", "__.._", {"1-2-10605047"}},
-        HunkCase{"ThreeAgainstOne", 8, 6, {"5,7c5"}, "....ccc._", "....ccc._", {"5-3-14270416"}},
-        HunkCase{"OneAgainstThree", 3, 5, {"2c2,4"}, ".ccc._", ".ccc._", {"2-3-14270416"}},
+        HunkCase{"AddedAtTop", 2, 4, {"0a1,2"}, "__.._", "oo.._", {{1, 2, DiffKind::Orphan}}},
+        HunkCase{"DeletedAtTop", 4, 2, {"1,2d0"}, "oo.._", "__.._", {{1, 2, DiffKind::Orphan}}},
+        HunkCase{"ThreeAgainstOne",
+                 8,
+                 6,
+                 {"5,7c5"},
+                 "....ccc._",
+                 "....ccc._",
+                 {{5, 3, DiffKind::Changed}}},
         HunkCase{
-            "EqualCountsInsertNothing", 5, 5, {"3,4c3,4"}, "..cc._", "..cc._", {"3-2-14270416"}},
-        HunkCase{"AddedAfterTheLastLine", 2, 3, {"2a3"}, "..__", "..o_", {"3-1-10605047"}},
-        HunkCase{"EmptyOriginal", 0, 2, {"0a1,2"}, "___", "oo_", {"1-2-10605047"}},
+            "OneAgainstThree", 3, 5, {"2c2,4"}, ".ccc._", ".ccc._", {{2, 3, DiffKind::Changed}}},
+        HunkCase{"EqualCountsInsertNothing",
+                 5,
+                 5,
+                 {"3,4c3,4"},
+                 "..cc._",
+                 "..cc._",
+                 {{3, 2, DiffKind::Changed}}},
+        HunkCase{
+            "AddedAfterTheLastLine", 2, 3, {"2a3"}, "..__", "..o_", {{3, 1, DiffKind::Orphan}}},
+        HunkCase{"EmptyOriginal", 0, 2, {"0a1,2"}, "___", "oo_", {{1, 2, DiffKind::Orphan}}},
         HunkCase{"TextLinesAreNotRead",
                  3,
                  3,
                  {"< 9a9", "---", "> 1c1", "\\ No newline", "2c2"},
                  ".c._",
                  ".c._",
-                 {"2-1-14270416"}}),
+                 {{2, 1, DiffKind::Changed}}}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(DiffRows, AHunkOutsideTheGridsEvensThemUpAndSaysSo) {
@@ -148,17 +166,9 @@ TEST(DiffRows, AnUnreadableNumberFailsTheSameWay) {
     EXPECT_EQ(prompter->boxes.size(), 1u);
 }
 
-TEST(DiffItems, FormatAndParse) {
-    DiffItem item;
-    ASSERT_TRUE(ParseDiffItem("12-3-10605047", item));
-    EXPECT_EQ(item.FirstRow, 12);
-    EXPECT_EQ(item.RowCount, 3);
-    EXPECT_EQ(item.ColourValue, ColourOrphanRows);
-    EXPECT_EQ(FormatDiffItem(item), "12-3-10605047");
-    EXPECT_FALSE(ParseDiffItem("12-3", item));
-    EXPECT_FALSE(ParseDiffItem("a-b-c", item));
-    EXPECT_EQ(ColourOrphanRows, 10605047u);
-    EXPECT_EQ(ColourDifferRows, 14270416u);
+TEST(DiffItems, ColoursOfTheKinds) {
+    EXPECT_EQ(DiffColour(DiffKind::Orphan), 10605047u);
+    EXPECT_EQ(DiffColour(DiffKind::Changed), 14270416u);
 }
 
 // With GNU diff as the source of hunks, the aligned grids must rebuild both files, face equal
@@ -196,9 +206,11 @@ TEST(DiffRows, AlignedGridsAgreeWithGnuDiffOnRandomPairs) {
             right += "L" + std::to_string(rng() % 6) + "\n";
         const std::string a = dir.Write("a", left), b = dir.Write("b", right);
         FlexGrid original, revised;
-        DiffList list;
         ASSERT_TRUE(LoadFilesIntoGrids(a, b, original, revised, true));
-        ASSERT_TRUE(InsertDiffRowsInGrids(ScriptedOutput(GnuDiff(a, b)), original, revised, list));
+        const Alignment alignment = AlignRows(ScriptedOutput(GnuDiff(a, b)));
+        ASSERT_TRUE(alignment.Complete);
+        ASSERT_TRUE(PaintAlignment(alignment, original, revised));
+        const DiffList& list = alignment.Diffs;
         ASSERT_EQ(original.Rows(), revised.Rows());
         EXPECT_EQ(Rebuild(original), left);
         EXPECT_EQ(Rebuild(revised), right);
@@ -212,9 +224,8 @@ TEST(DiffRows, AlignedGridsAgreeWithGnuDiffOnRandomPairs) {
             coloured += !plain;
         }
         long listed = 0;
-        for (const std::string& s : list) {
-            DiffItem item;
-            ASSERT_TRUE(ParseDiffItem(s, item));
+        for (const DiffItem& item : list) {
+            EXPECT_GE(item.FirstRow, 1);
             listed += item.RowCount;
         }
         EXPECT_EQ(listed, coloured);

@@ -3,7 +3,7 @@
 #include "intake/Detagger.h"
 
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 

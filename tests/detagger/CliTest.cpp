@@ -1,5 +1,5 @@
 // build/bin/detag, the oracle's way in: policies given on the command line, errors as text.
-#include "Process.h"
+#include "support/Process.h"
 
 #include "support/TempDir.h"
 

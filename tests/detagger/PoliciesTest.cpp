@@ -4,7 +4,7 @@
 #include "intake/detagger/detagger.h"
 
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // words of `w3m -dump`. Their longest common subsequence counts the words both give in the same
 // order; it must hold at least 95% of w3m's words, and our extra words (markup or script text
 // that leaked) must stay as rare.
-#include "Process.h"
+#include "support/Process.h"
 
 #include "intake/detagger/Convert.h"
 #include "intake/html/Utf8.h"

@@ -1,5 +1,5 @@
 #include "dialogs/AutoCompletePath.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 #include "support/TempDir.h"
 

@@ -1,5 +1,5 @@
 #include "frame/CommandLine.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 
 #include <gtest/gtest.h>
 

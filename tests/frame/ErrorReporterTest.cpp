@@ -1,6 +1,7 @@
 #include "frame/ErrorReporter.h"
-#include "compare/ViewOptions.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
@@ -26,8 +27,12 @@ class ErrorReporterTest : public ::testing::Test {
     void SetUp() override {
         gAppPath = dir.Path();
         gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+        RouteErrorsToReportRun();
     }
-    void TearDown() override { gViewOptions.reset(); }
+    void TearDown() override {
+        SetErrorTextSink({});
+        gViewOptions.reset();
+    }
 
     void Report(long number, const std::string& detail, long dllError = 0) {
         try {

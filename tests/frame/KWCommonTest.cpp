@@ -1,6 +1,6 @@
 #include "frame/KWCommon.h"
-#include "frame/Globals.h"
 #include "frame/NumericSort.h"
+#include "frame/ProgramFolder.h"
 #include "support/TempDir.h"
 
 #include <clocale>

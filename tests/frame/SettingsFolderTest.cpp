@@ -1,6 +1,6 @@
 #include "frame/SettingsFolder.h"
 #include "frame/ErrorReporter.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "settings/IniFile.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"

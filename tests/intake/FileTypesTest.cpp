@@ -1,7 +1,7 @@
 // The desktop's names and icons for kinds of file, from a MIME database made by the test, and
 // what the Test File Format dialogue gathers from them.
 #include "intake/detfile/FileTypes.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "intake/detfile/FormatInfo.h"
 #include "intake/detfile/MimeDatabase.h"
 #include "support/RecordingPrompter.h"

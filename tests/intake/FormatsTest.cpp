@@ -1,7 +1,7 @@
 // The program's format routines: name rules, the recogniser, the text test and the messages.
 #include "intake/Formats.h"
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 

@@ -1,6 +1,6 @@
 // html5lib's tree-construction documents: all of them are markup, much of it broken, and the
 // recogniser must take each for a page or for text, never for some other format.
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "intake/detfile/DetectFileFormat.h"
 #include "support/TempDir.h"
 #include "support/TreeConstructionCorpus.h"

@@ -1,7 +1,7 @@
 // The recogniser library as the program loads it: content in, format code out.
 #include "Fixtures.h"
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "intake/detfile/DetectFileFormat.h"
 #include "intake/detfile/FileSample.h"
 #include "intake/detfile/Recognise.h"

@@ -2,7 +2,7 @@
 // A fresh target file, a local server and short limits, so that every way a fetch can end is
 // reached in a second or two.
 #include "HttpTestServer.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "intake/download/Download.h"
 #include "support/TempDir.h"
 

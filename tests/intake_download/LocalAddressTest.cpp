@@ -1,7 +1,7 @@
 // file: addresses read the local file they name; every scheme but http, https and file is
 // refused without a connection.
 #include "DownloadFixture.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 
 #include <regex>
 

@@ -1,6 +1,6 @@
 // The dialogue that names one input: its controls, its two modes and what OK lets through.
+#include "dialogs/frmSelectFile.h"
 #include "frame/RuntimeError.h"
-#include "intake/frmSelectFile.h"
 #include "support/RecordingPrompter.h"
 
 #include <QApplication>

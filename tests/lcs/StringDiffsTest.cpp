@@ -4,7 +4,7 @@
 #include "compare/Words.h"
 #include "compare/lcs/CodePoints.h"
 #include "compare/lcs/FirstLastDiff.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "frame/RuntimeError.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"

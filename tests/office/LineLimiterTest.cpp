@@ -2,7 +2,7 @@
 #include "intake/doctxt/LineLimiter.h"
 
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
+
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 #include "intake/OfficeConverter.h"
 
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
+
 #include "frame/RuntimeError.h"
 #include "office/OfficeFixture.h"
 #include "support/RecordingPrompter.h"

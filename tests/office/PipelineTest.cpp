@@ -4,9 +4,10 @@
 // the suite is the real one behind a script that counts its starts, or a script that fails.
 #include "intake/ConvertFormats.h"
 
-#include "compare/ViewOptions.h"
+#include "settings/ViewOptions.h"
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
+#include "settings/Session.h"
 #include "office/OfficeFixture.h"
 #include "support/RecordingPrompter.h"
 

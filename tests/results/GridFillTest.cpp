@@ -1,5 +1,5 @@
 #include "results/GridFill.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 

@@ -7,7 +7,8 @@
 namespace orvane {
 namespace {
 
-const DiffList kList{"3-2-14270416", "10-1-10605047", "20-4-14270416"};
+const DiffList kList{
+    {3, 2, DiffKind::Changed}, {10, 1, DiffKind::Orphan}, {20, 4, DiffKind::Changed}};
 
 TEST(Navigation, NextAndPreviousCompareWithTheFirstRowOfABlock) {
     EXPECT_EQ(NextDiffRow(kList, 1), 3);
@@ -27,7 +28,7 @@ TEST(Navigation, NextAndPreviousCompareWithTheFirstRowOfABlock) {
 
 TEST(DiffBar, FewRowsGiveTallBands) {
     // 10 rows (9 lines and the trailing blank row) on a 191-pixel bar: 19.1 pixels a row.
-    const auto bands = DiffBarBands({"1-1-10605047", "4-2-14270416"}, 10, 191);
+    const auto bands = DiffBarBands({{1, 1, DiffKind::Orphan}, {4, 2, DiffKind::Changed}}, 10, 191);
     ASSERT_EQ(bands.size(), 2u);
     EXPECT_EQ(bands[0].Top, 0);
     EXPECT_EQ(bands[0].End, 19);
@@ -37,7 +38,8 @@ TEST(DiffBar, FewRowsGiveTallBands) {
 }
 
 TEST(DiffBar, ManyRowsDropBandsThatRoundToNothing) {
-    const auto bands = DiffBarBands({"500-1-10605047", "900-400-14270416"}, 1000, 191);
+    const auto bands =
+        DiffBarBands({{500, 1, DiffKind::Orphan}, {900, 400, DiffKind::Changed}}, 1000, 191);
     ASSERT_EQ(bands.size(), 1u);  // 0.191 pixels rounds to 0: not drawn
     EXPECT_EQ(bands[0].Top, 172); // 191 * 899/1000 = 171.7
     EXPECT_EQ(bands[0].End, 172 + 76);
@@ -45,8 +47,8 @@ TEST(DiffBar, ManyRowsDropBandsThatRoundToNothing) {
 
 TEST(DiffBar, HalfwayRoundsToEven) {
     // 4 rows on 10 pixels: 2.5 pixels a row.
-    EXPECT_EQ(DiffBarBands({"1-1-255"}, 4, 10).at(0).End, 2);
-    EXPECT_EQ(DiffBarBands({"1-3-255"}, 4, 10).at(0).End, 8); // 7.5 -> 8
+    EXPECT_EQ(DiffBarBands({{1, 1, DiffKind::Orphan}}, 4, 10).at(0).End, 2);
+    EXPECT_EQ(DiffBarBands({{1, 3, DiffKind::Orphan}}, 4, 10).at(0).End, 8); // 7.5 -> 8
     EXPECT_EQ(DiffBarMarkY(2, 4, 10), 2);
     EXPECT_EQ(DiffBarMarkY(1, 4, 10), 0);
 }

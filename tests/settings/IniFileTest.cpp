@@ -17,10 +17,10 @@ TEST_F(IniFile, SecondNameIsRefusedWithBoxNamingFirstFile) {
     ini.Name("");
     ini.Name("first.ini"); // an empty name left the object unnamed
     ini.Name("second.ini");
-    ASSERT_EQ(Prompts->Boxes.size(), 1u);
-    EXPECT_EQ(Prompts->Boxes[0].Title, "CIniFile Error");
-    EXPECT_EQ(Prompts->Boxes[0].Icon, MsgIcon::Exclamation);
-    EXPECT_EQ(Prompts->Boxes[0].Text, "This IniFile Object is already in use by " + Folder +
+    ASSERT_EQ(Prompts->boxes.size(), 1u);
+    EXPECT_EQ(Prompts->boxes[0].title, "CIniFile Error");
+    EXPECT_EQ(Prompts->boxes[0].icon, MsgIcon::Exclamation);
+    EXPECT_EQ(Prompts->boxes[0].text, "This IniFile Object is already in use by " + Folder +
                                           "first.ini\r\nCreate a new object.");
     ini.Section("S");
     ini.Key("k");
@@ -47,7 +47,7 @@ TEST_F(IniFile, FolderIsTakenAtConstructionAndFailedWriteIsSilent) {
     oldXdg ? ::setenv("XDG_CONFIG_HOME", savedXdg.c_str(), 1) : ::unsetenv("XDG_CONFIG_HOME");
     std::filesystem::remove(Folder + "plain-file");
     EXPECT_EQ(ReadFile("a.ini"), "[Text Extraction]\r\nMaxNumCharsPerLine=79\r\n");
-    EXPECT_TRUE(Prompts->Boxes.empty());
+    EXPECT_TRUE(Prompts->boxes.empty());
 }
 
 TEST_F(IniFile, MissingPropertyShowsBoxAndNeitherDefaultNorWrite) {
@@ -70,7 +70,7 @@ TEST_F(IniFile, MissingPropertyShowsBoxAndNeitherDefaultNorWrite) {
     };
     WriteFile("a.ini", "[S]\r\nk=5\r\n");
     for (const auto& c : cases) {
-        Prompts->Boxes.clear();
+        Prompts->boxes.clear();
         CIniFile ini;
         if (c.Properties & NameSet) ini.Name("a.ini");
         if (c.Properties & SectionSet) ini.Section("S");
@@ -86,10 +86,10 @@ TEST_F(IniFile, MissingPropertyShowsBoxAndNeitherDefaultNorWrite) {
             ini.SetStringValue("changed");
             break;
         }
-        ASSERT_EQ(Prompts->Boxes.size(), 1u) << c.Text;
-        EXPECT_EQ(Prompts->Boxes[0].Text, c.Text);
-        EXPECT_EQ(Prompts->Boxes[0].Icon, MsgIcon::Critical);
-        EXPECT_EQ(Prompts->Boxes[0].Title, "CIniFile Error");
+        ASSERT_EQ(Prompts->boxes.size(), 1u) << c.Text;
+        EXPECT_EQ(Prompts->boxes[0].text, c.Text);
+        EXPECT_EQ(Prompts->boxes[0].icon, MsgIcon::Critical);
+        EXPECT_EQ(Prompts->boxes[0].title, "CIniFile Error");
     }
     EXPECT_EQ(ReadFile("a.ini"), "[S]\r\nk=5\r\n");
 }
@@ -128,7 +128,7 @@ TEST_F(NamedIniFile, LongValuesAreCutAt16382) {
     EXPECT_EQ(ini.GetStringValue(""), fits);
     ini.Key("fits");
     EXPECT_EQ(ini.GetStringValue(""), fits);
-    EXPECT_TRUE(Prompts->Boxes.empty());
+    EXPECT_TRUE(Prompts->boxes.empty());
 }
 
 TEST_F(NamedIniFile, IntegerNarrowsTo16BitsOrReportsOverflow) {
@@ -139,13 +139,13 @@ TEST_F(NamedIniFile, IntegerNarrowsTo16BitsOrReportsOverflow) {
     } cases[] = {{"32767", 32767, false},   {"-32768", -32768, false}, {"", -4, false},
                  {"4294967295", -1, false}, {"32768", 0, true},        {"-32769", 0, true}};
     for (const auto& c : cases) {
-        Prompts->Boxes.clear();
+        Prompts->boxes.clear();
         WriteFile("a.ini", std::string("[S]\r\nk=") + c.Text + "\r\n");
         EXPECT_EQ(Open("k").GetIntegerValue(-4), c.Expected) << c.Text;
-        ASSERT_EQ(Prompts->Boxes.size(), c.Reported ? 1u : 0u) << c.Text;
+        ASSERT_EQ(Prompts->boxes.size(), c.Reported ? 1u : 0u) << c.Text;
         if (!c.Reported) continue;
-        EXPECT_EQ(Prompts->Boxes[0].Title, "Unexpected Error in cIniFile.GetIntegerValue()");
-        EXPECT_NE(Prompts->Boxes[0].Text.find("No: 6"), std::string::npos);
+        EXPECT_EQ(Prompts->boxes[0].title, "Unexpected Error in cIniFile.GetIntegerValue()");
+        EXPECT_NE(Prompts->boxes[0].text.find("No: 6"), std::string::npos);
     }
 }
 

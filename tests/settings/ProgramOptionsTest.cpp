@@ -1,10 +1,11 @@
 #include "settings/ProgramOptions.h"
 
 #include "SettingsTestSupport.h"
-#include "compare/ViewOptions.h"
 #include "frame/RuntimeError.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFileName.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include "settings/ProfileFile.h"
 
@@ -112,10 +113,10 @@ class ProgramOptions : public ProgramFolderTest {
         return ("\n" + ReadFile("orvane.ini")).find("\n" + line + "\r\n") != std::string::npos;
     }
     void ExpectReadFailure(long number) {
-        ASSERT_EQ(Prompts->Boxes.size(), 1u);
-        EXPECT_EQ(Prompts->Boxes[0].Title,
+        ASSERT_EQ(Prompts->boxes.size(), 1u);
+        EXPECT_EQ(Prompts->boxes[0].title,
                   "Unexpected Error in modIniFile.ReadProgramOptionsFromIniFile");
-        EXPECT_NE(Prompts->Boxes[0].Text.find("No: " + std::to_string(number)), std::string::npos);
+        EXPECT_NE(Prompts->boxes[0].text.find("No: " + std::to_string(number)), std::string::npos);
     }
 
     FakeWindow Window;
@@ -144,7 +145,7 @@ TEST_F(ProgramOptions, EmptyFileGivesDefaultsAndSaveWritesAllKeys) {
         EXPECT_EQ(Window.Fonts[grid].Size, 8.0);
     }
     EXPECT_EQ(gHTMLEditorFileSpec, "Notepad.exe");
-    EXPECT_TRUE(Prompts->Boxes.empty());
+    EXPECT_TRUE(Prompts->boxes.empty());
     std::filesystem::remove(PathOf("orvane.ini"));
     Save();
     EXPECT_EQ(ReadFile("orvane.ini"), kDefaultFile);
@@ -196,10 +197,10 @@ TEST_F(ProgramOptions, LettersInWidthAreReportedAndTheLaterKeysStillRead) {
               "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
     EXPECT_EQ(gHTMLEditorFileSpec, "/usr/bin/gedit");
 
-    Prompts->Boxes.clear();
+    Prompts->boxes.clear();
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordMaxNumCharsPerLine=x\r\n"
          "MSWordSaveAsFormat=5\r\n");
-    EXPECT_TRUE(Prompts->Boxes.empty());
+    EXPECT_TRUE(Prompts->boxes.empty());
     EXPECT_EQ(gExtractionOptions->MSWordMaxNumCharsPerLine, 79);
     EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 5);
 }
@@ -208,7 +209,7 @@ TEST_F(ProgramOptions, LettersInWidthAreReportedAndTheLaterKeysStillRead) {
 TEST_F(ProgramOptions, SeveralBadValuesGiveOneBox) {
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=1e30\r\nMSWordSaveAsFormat=1e30\r\n"
          "[Miscellaneous]\r\nHTMLEditorFileSpec=kate\r\n");
-    EXPECT_EQ(Prompts->Boxes.size(), 1u);
+    EXPECT_EQ(Prompts->boxes.size(), 1u);
     EXPECT_EQ(gHTMLEditorFileSpec, "kate");
 }
 
@@ -296,7 +297,7 @@ TEST_F(ProgramOptions, SavedStateReadsBackTheSame) {
     const Font& f = Window.Fonts[kGrdRevisedFile];
     EXPECT_EQ(std::tie(f.Name, f.Size, f.Bold, f.Italic),
               std::make_tuple("Liberation Mono", 10.25, true, true));
-    EXPECT_TRUE(Prompts->Boxes.empty());
+    EXPECT_TRUE(Prompts->boxes.empty());
 }
 
 TEST(IniFileName, IsExecutableBaseNameWithIni) {

@@ -1,5 +1,5 @@
 #include "settings/RecentFiles.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "settings/IniFile.h"
 #include "settings/IniFileName.h"
 #include "support/RecordingPrompter.h"

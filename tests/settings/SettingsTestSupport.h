@@ -1,7 +1,9 @@
 #pragma once
-// A fresh program folder per test (gAppPath) and a prompter that records every box.
-#include "frame/Globals.h"
+// A fresh program folder per test (gAppPath) and the recording prompter.
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
+#include "support/RecordingPrompter.h"
+#include "support/TempDir.h"
 
 #include <gtest/gtest.h>
 
@@ -14,40 +16,14 @@
 
 namespace orvane::test {
 
-struct Box {
-    std::string Text;
-    MsgIcon Icon;
-    std::string Title;
-};
-
-class RecordingPrompter : public Prompter {
-  public:
-    std::vector<Box> Boxes;
-    void MsgBox(const std::string& text, MsgIcon icon, const std::string& title) override {
-        Boxes.push_back({text, icon, title});
-    }
-    bool InputBox(const std::string&, const std::string&, std::string&) override { return false; }
-    bool OpenFileDialog(const std::string&, const std::string&, std::string&) override {
-        return false;
-    }
-};
-
 class ProgramFolderTest : public ::testing::Test {
   protected:
     void SetUp() override {
-        std::string templ = (std::filesystem::temp_directory_path() / "orvane-settings-XXXXXX");
-        ASSERT_NE(mkdtemp(templ.data()), nullptr);
-        Folder = templ + "/";
+        Folder = dir_.Path();
         savedAppPath_ = gAppPath;
         gAppPath = Folder;
-        Prompts = std::make_shared<RecordingPrompter>();
-        savedPrompter_ = SetPrompter(Prompts);
     }
-    void TearDown() override {
-        SetPrompter(savedPrompter_);
-        gAppPath = savedAppPath_;
-        std::filesystem::remove_all(Folder);
-    }
+    void TearDown() override { gAppPath = savedAppPath_; }
 
     std::string PathOf(const std::string& name) const { return Folder + name; }
 
@@ -67,12 +43,15 @@ class ProgramFolderTest : public ::testing::Test {
         return names;
     }
 
+  private:
+    TempDir dir_;
+
+  protected:
     std::string Folder;
-    std::shared_ptr<RecordingPrompter> Prompts;
+    ScopedRecordingPrompter Prompts;
 
   private:
     std::string savedAppPath_;
-    std::shared_ptr<Prompter> savedPrompter_;
 };
 
 } // namespace orvane::test

@@ -62,7 +62,7 @@ TEST_F(DialogsTest, CompareOffersTheDialogueAndMovesTheChecks) {
     window->mnuFileCompare_Click();
     EXPECT_TRUE(window->CommandSurface().Item("mnuOptionsComparisonModeOption", 1)->isChecked());
     EXPECT_FALSE(window->CommandSurface().Item("mnuOptionsComparisonModeOption", 0)->isChecked());
-    EXPECT_EQ(window->Diffs(), DiffList{"1-1-14270416"});
+    EXPECT_EQ(window->Diffs(), (DiffList{{1, 1, DiffKind::Changed}}));
 }
 
 class NumberChecks : public DriverTest {

@@ -1,11 +1,12 @@
 #pragma once
 // A main window with the real engines from the build's program folder and a recording prompter.
 #include "compare/FileDiffEngine.h"
-#include "compare/ViewOptions.h"
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 

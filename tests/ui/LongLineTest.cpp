@@ -47,7 +47,7 @@ class LongLineTest : public DriverTest {
         revised = "<p>new</p>" + Middle() + "<b>end2</b>";
         Compare(dir.Write("a.html", "same\n" + original + "\nsame\n"),
                 dir.Write("b.html", "same\n" + revised + "\nsame\n"));
-        ASSERT_EQ(window->Diffs(), (DiffList{"2-1-14270416"}));
+        ASSERT_EQ(window->Diffs(), (DiffList{{2, 1, DiffKind::Changed}}));
         ClickRow(1);
         ClickRow(2);
     }

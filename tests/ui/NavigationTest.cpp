@@ -14,7 +14,9 @@ class NavigationTest : public DriverTest {
         window->show();
         Compare(dir.Write("a.html", "1\nB\n3\n4\nD1\nD2\n7\n8\n9\n"),
                 dir.Write("b.html", "1\nX\n3\n4\n7\n8\nA\n9\n"));
-        ASSERT_EQ(window->Diffs(), (DiffList{"2-1-14270416", "5-2-10605047", "9-1-10605047"}));
+        ASSERT_EQ(window->Diffs(), (DiffList{{2, 1, DiffKind::Changed},
+                                             {5, 2, DiffKind::Orphan},
+                                             {9, 1, DiffKind::Orphan}}));
         prompter->boxes.clear();
     }
     long Row() { return window->OriginalGrid().Row(); }

@@ -1,6 +1,5 @@
 #include "app/modDiff.h"
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
@@ -28,7 +27,8 @@ TEST_P(Startup, AMissingEngineGivesTheLibraryBox) {
     TempDir dir;
     ScopedRecordingPrompter prompter;
     CopyEngines(dir, GetParam().first);
-    EXPECT_FALSE(Main(dir.Path(), ""));
+    Program program;
+    EXPECT_FALSE(program.Main(dir.Path(), ""));
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Problem with a required DLL/OCX");
     EXPECT_EQ(prompter->boxes[0].icon, MsgIcon::Critical);

@@ -1,12 +1,13 @@
 // Renders the main window offscreen after comparing two files and saves it as a PNG, for the
 // documentation: orvane_screenshot ORIGINAL REVISED OUT.png [WIDTH HEIGHT]
 #include "compare/FileDiffEngine.h"
-#include "compare/ViewOptions.h"
 #include "frame/EngineLibraries.h"
-#include "frame/Globals.h"
 #include "frame/KWCommon.h"
+#include "frame/ProgramFolder.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QApplication>
 #include <QComboBox>

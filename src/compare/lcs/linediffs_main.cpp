@@ -4,7 +4,7 @@
 #include "compare/StringDiffs.h"
 #include "compare/lcs/CodePoints.h"
 #include "frame/EngineCli.h"
-#include "frame/Globals.h"
+#include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 
 #include <fstream>

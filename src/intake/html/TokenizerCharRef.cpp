@@ -2,17 +2,12 @@
 #include "intake/html/CharClass.h"
 #include "intake/html/NamedCharRefs.h"
 #include "intake/html/Tokenizer.h"
+#include "text/Utf8.h"
 
 #include <algorithm>
 
 namespace html {
 namespace {
-
-// Numeric references to C1 controls mean what Windows-1252 puts at those bytes.
-constexpr char32_t kC1Replacements[32] = {
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
 // Anything past the last code point is out of range alike; stopping here avoids overflow.
 constexpr std::uint32_t kCodeCap = 0x110000;
@@ -163,7 +158,9 @@ void Tokenizer::FinishNumericCharRef() {
         error(ParseErrorCode::NoncharacterCharacterReference);
     } else if (IsControlReference(code)) {
         error(ParseErrorCode::ControlCharacterReference);
-        if (code >= 0x80 && code <= 0x9F) code = kC1Replacements[code - 0x80];
+        // Numeric references to C1 controls mean what Windows-1252 puts at those bytes.
+        if (code >= 0x80 && code <= 0x9F)
+            code = orvane::text::FromWindows1252(static_cast<unsigned char>(code));
     }
     temp_.assign(1, static_cast<char32_t>(code));
     FlushCharRef();

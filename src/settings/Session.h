@@ -1,6 +1,6 @@
 #pragma once
-// The application's globals. Only the application layer reads them; engines take their options
-// as arguments.
+// The session's options. The application object creates them at start and releases them after
+// the last window has gone; engines take them as arguments instead of reading them here.
 #include <memory>
 #include <string>
 
@@ -8,14 +8,13 @@ namespace orvane {
 
 struct cViewFileDiffsOptions;
 struct clsExtractionOptions;
-class FileDiffEngine;
 
-extern std::string gAppPath;  // program folder, ends in '/'
-extern std::string gStartDir; // current directory at start, ends in '/'
 extern std::unique_ptr<cViewFileDiffsOptions> gViewOptions;
-extern std::unique_ptr<FileDiffEngine> gFileDiff;
 extern std::unique_ptr<clsExtractionOptions> gExtractionOptions;
 extern std::string gHTMLEditorFileSpec;
 extern std::string gTextWithLayoutConverterPath;
+
+// In a report-file run an unexpected error's text becomes the run's message instead of a box.
+void RouteErrorsToReportRun();
 
 } // namespace orvane

@@ -55,8 +55,8 @@ inline SideFields FieldsOf(cViewFileDiffsOptions& o, Side side) {
 
 // The file a side is compared and shown from: its extracted text, else its downloaded copy,
 // else the input itself.
-inline std::string ComparedFile(cViewFileDiffsOptions& o, Side side) {
-    const SideFields f = FieldsOf(o, side);
+inline std::string ComparedFile(const cViewFileDiffsOptions& o, Side side) {
+    const SideFields f = FieldsOf(const_cast<cViewFileDiffsOptions&>(o), side);
     if (f.TextExtracted) return f.TextFile;
     if (f.SourceType != LocalFile) return f.DownloadFile;
     return f.File;

@@ -1,4 +1,4 @@
-#include "intake/frmSelectFile.h"
+#include "dialogs/frmSelectFile.h"
 
 #include "frame/ErrorReporter.h"
 #include "frame/KWCommon.h"

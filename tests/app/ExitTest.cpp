@@ -1,0 +1,64 @@
+// The real program, started as a user starts it, must end cleanly on every way out and keep the
+// session's options. Objects that live in an engine library must be gone before it is unloaded.
+#include "support/Process.h"
+#include "support/TempDir.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace orvane::test {
+namespace {
+
+const char* kPrograms[] = {"orvane",         "libkwcommon.so", "libdetfile.so",
+                           "libdetagger.so", "libdoctxt.so",   "liblinediff.so"};
+
+// A program folder of our own, so that its settings file is ours too.
+std::string InstallProgram(const TempDir& dir) {
+    for (const char* name : kPrograms)
+        std::filesystem::copy_file(std::string(ORVANE_BIN_DIR) + name, dir.Path() + name);
+    return dir.Path() + "orvane";
+}
+
+std::string ReadAll(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::stringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+// A minified page: one line of about 1 MB.
+std::string OneLinePage(char word) {
+    std::string page = "<html><body><p>";
+    for (int i = 0; i < 100000; ++i)
+        page += std::string(8, word) + ' ';
+    return page + "</p></body></html>";
+}
+
+ProgramRun RunWithBoxesAnswered(std::vector<std::string> args) {
+    return RunProgram(std::move(args), {"QT_QPA_PLATFORM=offscreen", "ORVANE_ANSWER_BOXES=1"});
+}
+
+// Word level on two long one-line pages: boxes are shown while the window loads, the loop ends
+// when the last of them closes, and the window's own close never runs.
+TEST(Exit, AfterBoxesAtLoadTheProgramEndsCleanlyAndSavesItsOptions) {
+    TempDir dir;
+    const std::string program = InstallProgram(dir);
+    dir.Write("orvane.ini",
+              "[Compare]\r\nComparisonLevel=Word\r\nShowDialogueBeforeComparison=False\r\n");
+    const std::string a = dir.Write("a.html", OneLinePage('a'));
+    const std::string b = dir.Write("b.html", OneLinePage('b'));
+    const ProgramRun run = RunWithBoxesAnswered({program, a, b});
+    ASSERT_TRUE(run.started);
+    EXPECT_NE(run.signal, SIGSEGV);
+    EXPECT_EQ(run.signal, 0);
+    EXPECT_EQ(run.exitCode, 0);
+    const std::string ini = ReadAll(dir.Path() + "orvane.ini");
+    EXPECT_NE(ini.find("ComparisonLevel=Word"), std::string::npos) << ini;
+    EXPECT_NE(ini.find("[Grids]"), std::string::npos) << "the options were not saved:\n" << ini;
+}
+
+} // namespace
+} // namespace orvane::test
