@@ -56,13 +56,15 @@ std::string PageWriter::Finish(const ReportOptions& options, const std::string& 
         ReplaceAll(body_, "href=\"#" + Anchor(-1) + "\"", "href=\"#" + Anchor(count_ - 1) + "\"");
         ReplaceAll(body_, "href=\"#" + Anchor(count_) + "\"", "href=\"#" + Anchor(0) + "\"");
     }
-    std::string page = "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>";
+    std::string page =
+        "<!DOCTYPE html>\n<html" + htmlAttributes_ + ">\n<head>\n<meta charset=\"utf-8\">\n<title>";
     AppendEscapedText(page, options.reportTitle);
     page += "</title>\n";
     page += head;
     page += "<style class=\"orvane-chrome\">";
     page += ReportStyleSheet();
-    page += "</style>\n</head>\n<body>\n<div class=\"orvane-chrome orvane-banner\">";
+    page += "</style>\n</head>\n<body" + bodyAttributes_ +
+            ">\n<div class=\"orvane-chrome orvane-banner\">";
     page += "<b class=\"orvane-chrome\">" + EscapeUtf8(options.productTitle) + "</b> ";
     if (count_ > 0) {
         page += "<a class=\"orvane-chrome\" href=\"#" + Anchor(0) + "\">" +

@@ -1,5 +1,5 @@
 // The Source and Text kinds: one merged listing, line by line, inner differences at the level.
-#include "report/Report.h"
+#include "report/Engine.h"
 #include "report/ReportChecks.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // The failures other merged-page tools are known for, one case each: where a mark lands and what
 // it is allowed to wrap.
-#include "report/Report.h"
+#include "report/Engine.h"
 #include "report/ReportChecks.h"
 
 #include <gtest/gtest.h>
