@@ -16,7 +16,11 @@ struct LoadedInput {
     std::string identity; // the canonical file path or the address: same identity, same input
 };
 
+// Through the download module for a web address (in the report library only).
 LoadedInput LoadInput(const std::string& source);
+// A local file only: what the engine alone can read (frames of a page given as content).
+LoadedInput LoadLocalFile(const std::string& path);
+bool ReadWholeFile(const std::string& path, std::string& bytes);
 
 // A page without markup, or binary bytes, is not HTML.
 bool LooksLikeHtml(const std::string& bytes);

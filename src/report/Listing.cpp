@@ -3,8 +3,6 @@
 #include "report/Markup.h"
 #include "report/SequenceDiff.h"
 
-#include "compare/lcs/Lcs.h"
-
 #include <vector>
 
 namespace orvane::report {
@@ -69,14 +67,6 @@ std::vector<std::u32string_view> Pieces(std::u32string_view line, DetailLevel le
     return pieces;
 }
 
-struct PieceKey {
-    std::u32string text;
-    bool operator==(const PieceKey&) const = default;
-};
-struct PieceHash {
-    std::size_t operator()(const PieceKey& k) const { return std::hash<std::u32string>()(k.text); }
-};
-
 class ListingWriter {
   public:
     ListingWriter(const ReportOptions& options, PageWriter& writer)
@@ -115,13 +105,14 @@ class ListingWriter {
         if (n > 0) out_ += std::to_string(n);
         out_ += "</td>";
     }
-    void Run(const std::vector<std::u32string_view>& pieces, const orvane::lcs::Marks& marks,
-             std::size_t& i, bool common, Mark mark) {
-        if (i >= pieces.size() || marks[i] != common) return;
-        if (!common) writer_.Open(mark);
-        for (; i < pieces.size() && marks[i] == common; ++i)
+    // Writes the run of changed pieces from i on (none when i is a common piece).
+    void Run(const std::vector<std::u32string_view>& pieces,
+             const std::vector<std::uint8_t>& changed, std::size_t& i, Mark mark) {
+        if (i >= pieces.size() || !changed[i]) return;
+        writer_.Open(mark);
+        for (; i < pieces.size() && changed[i]; ++i)
             AppendEscapedText(out_, pieces[i]);
-        if (!common) writer_.Close(mark);
+        writer_.Close(mark);
     }
 
     const ReportOptions& options_;
@@ -132,20 +123,20 @@ class ListingWriter {
 void ListingWriter::Changed(std::u32string_view lineA, std::u32string_view lineB, long a, long b) {
     const auto piecesA = Pieces(lineA, options_.level);
     const auto piecesB = Pieces(lineB, options_.level);
-    std::vector<PieceKey> keysA, keysB;
+    KeyTable keys;
+    std::vector<std::uint32_t> idsA, idsB;
     for (auto p : piecesA)
-        keysA.push_back({LineKey(p, options_)});
+        idsA.push_back(keys.Id(LineKey(p, options_)));
     for (auto p : piecesB)
-        keysB.push_back({LineKey(p, options_)});
-    orvane::lcs::Marks marksA, marksB;
-    orvane::lcs::LcsMarks<PieceKey, PieceHash>(keysA, keysB, marksA, marksB);
+        idsB.push_back(keys.Id(LineKey(p, options_)));
+    const Alignment inner = AlignSequences(idsA, idsB, keys.Count());
     Row("orvane-row-chg", a, b);
     // Deleted pieces go before the inserted ones at each gap, equal pieces from the Revised line.
     std::size_t i = 0, j = 0;
     while (i < piecesA.size() || j < piecesB.size()) {
-        Run(piecesA, marksA, i, false, Mark::Deleted);
-        Run(piecesB, marksB, j, false, Mark::Inserted);
-        if (i < piecesA.size() && j < piecesB.size() && marksA[i] && marksB[j]) {
+        Run(piecesA, inner.changedA, i, Mark::Deleted);
+        Run(piecesB, inner.changedB, j, Mark::Inserted);
+        if (i < piecesA.size() && j < piecesB.size() && !inner.changedA[i] && !inner.changedB[j]) {
             AppendEscapedText(out_, piecesB[j]);
             ++i;
             ++j;

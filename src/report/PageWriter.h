@@ -22,6 +22,12 @@ class PageWriter {
     // Equal content was written: the next mark starts a new difference.
     void Equal() { inRun_ = false; }
     int Count() const { return count_; }
+    // The Revised page's own attributes of html and body (class, style, lang), so that its
+    // style sheets still apply; written as ` name="value"...`.
+    void SetRootAttributes(std::string html, std::string body) {
+        htmlAttributes_ = std::move(html);
+        bodyAttributes_ = std::move(body);
+    }
 
     // The whole document. `head` is the Revised page's kept head content (styles, links).
     std::string Finish(const ReportOptions& options, const std::string& head,
@@ -29,6 +35,7 @@ class PageWriter {
 
   private:
     std::string body_;
+    std::string htmlAttributes_, bodyAttributes_;
     int count_ = 0;
     bool inRun_ = false;
 };

@@ -29,6 +29,8 @@ class Merger {
 
     void Write() {
         const Node* body = atomsB_.body;
+        if (body->Is(Tag::Body) && body->parent && body->parent->Is(Tag::Html))
+            w_.SetRootAttributes(Attributes(*body->parent), Attributes(*body));
         if (body->kind == NodeKind::Element && !body->Is(Tag::Body) && !body->Is(Tag::Html)) {
             EmitNode(body);
         } else {
@@ -40,6 +42,13 @@ class Merger {
     }
 
   private:
+    std::string Attributes(const Node& n) const {
+        std::string tag;
+        AppendStartTag(tag, n, pb_.base);
+        const std::size_t from = tag.find_first_of(" >");
+        return tag.substr(from, tag.size() - 1 - from);
+    }
+
     void EmitPieces(const std::unordered_map<const Node*, std::vector<Piece>>& map, const Node* n) {
         if (const auto it = map.find(n); it != map.end())
             for (const auto& p : it->second)

@@ -1,9 +1,8 @@
 // The Source and Text kinds: one merged listing, line by line, inner differences at the level.
-#include "report/Report.h"
+#include "report/Engine.h"
 #include "report/ReportChecks.h"
 
 #include <gtest/gtest.h>
-#include <regex>
 
 using namespace orvane::report;
 using namespace orvane::test;
@@ -12,11 +11,7 @@ namespace {
 
 std::string Rows(const std::string& report) {
     const auto from = report.find("<table class=\"orvane-listing\">");
-    std::string rows = report.substr(from, report.find("</table>", from) - from);
-    return std::regex_replace(
-        rows,
-        std::regex("<span class=\"orvane-chrome orvane-nav\"[^>]*>(<a[^>]*>[^<]*</a>)*</span>"),
-        "");
+    return WithoutNavigation(report.substr(from, report.find("</table>", from) - from));
 }
 
 ReportOptions Kind(CompareKind kind, DetailLevel level = DetailLevel::Word) {

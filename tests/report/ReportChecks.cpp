@@ -98,6 +98,14 @@ int CountOf(const std::string& text, const std::string& what) {
     return n;
 }
 
+std::string WithoutNavigation(std::string report) {
+    const std::string open = "<span class=\"orvane-chrome orvane-nav\"";
+    for (auto at = report.find(open); at != std::string::npos; at = report.find(open, at))
+        report.erase(at, report.find("</span>", at) + 7 - at);
+    std::erase(report, '\n');
+    return report;
+}
+
 std::string StructureFault(const std::string& report) {
     const html::Document doc = html::ParseDocument(html::DecodeUtf8(report));
     std::vector<const Node*> all;

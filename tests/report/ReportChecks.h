@@ -21,4 +21,7 @@ std::string StructureFault(const std::string& report);
 
 int CountOf(const std::string& text, const std::string& what);
 
+// The report without its navigation links and line breaks, for matching marks in tests.
+std::string WithoutNavigation(std::string report);
+
 } // namespace orvane::test

@@ -1,6 +1,7 @@
 // The htmlreport command and the engine's inputs: files, web addresses, the result codes and
 // what is written where.
 #include "intake_download/HttpTestServer.h"
+#include "report/Engine.h"
 #include "report/Report.h"
 #include "support/TempDir.h"
 

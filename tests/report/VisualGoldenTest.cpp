@@ -1,10 +1,9 @@
 // The failures other merged-page tools are known for, one case each: where a mark lands and what
 // it is allowed to wrap.
-#include "report/Report.h"
+#include "report/Engine.h"
 #include "report/ReportChecks.h"
 
 #include <gtest/gtest.h>
-#include <regex>
 
 using namespace orvane::report;
 using namespace orvane::test;
@@ -13,12 +12,7 @@ namespace {
 
 // The report's body without the navigation chrome and without line breaks, for matching.
 std::string Body(const std::string& report) {
-    std::string body = report.substr(report.find("</div></div>") + 12);
-    body = std::regex_replace(
-        body,
-        std::regex("<span class=\"orvane-chrome orvane-nav\"[^>]*>(<a[^>]*>[^<]*</a>)*</span>"),
-        "");
-    body = std::regex_replace(body, std::regex("\n"), "");
+    std::string body = WithoutNavigation(report.substr(report.find("</div></div>") + 12));
     return body.substr(0, body.find("</body>"));
 }
 

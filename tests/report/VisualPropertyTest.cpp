@@ -2,8 +2,8 @@
 // Revised page, with the inserted marks dropped as the Original, and the marks it adds are
 // well formed.
 #include "intake/html/Utf8.h"
+#include "report/Engine.h"
 #include "report/PairGenerator.h"
-#include "report/Report.h"
 #include "report/ReportChecks.h"
 
 #include <cstdlib>

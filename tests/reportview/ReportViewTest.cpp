@@ -26,9 +26,11 @@ std::string ReportWithThreeDifferences(const std::string& extraHead = "") {
                        "<style>.gap{height:1500px}</style></head><body>";
     page += "<p>needle one</p>";
     for (int k = 0; k < 3; ++k) {
-        page += "<div class='gap'></div><p><ins id='orvane-diff-" + std::to_string(k) +
-                "' data-orvane-diff='" + std::to_string(k) + "'>added " + std::to_string(k) +
-                "</ins> <del data-orvane-diff='" + std::to_string(k) + "'>gone</del></p>";
+        // The engine's shape: the anchor inside the difference's first mark.
+        const std::string n = std::to_string(k);
+        page += "<div class='gap'></div><p id='p" + n +
+                "'><ins><span class='orvane-chrome' id='orvane-diff-" + n + "'></span>added " + n +
+                "</ins> <del>gone</del></p>";
     }
     page += "<p>needle two</p><div class='gap'></div><p>needle three</p></body></html>";
     return page;
@@ -48,12 +50,9 @@ class ReportViewTest : public ::testing::Test {
     }
     std::string Write(const std::string& html) { return dir.Write("report.html", html); }
     bool IsCurrent(int k) {
-        return view
-            .RunScript(
-                QString("document.querySelectorAll('[data-orvane-diff=\"%1\"].orvane-current')"
-                        ".length == 2")
-                    .arg(k))
-            .toBool();
+        const QString script = "document.querySelectorAll('#p%1 .orvane-current').length == 2 && "
+                               "document.querySelectorAll('.orvane-current').length == 2";
+        return view.RunScript(script.arg(k)).toBool();
     }
 
     test::TempDir dir;
@@ -191,6 +190,11 @@ TEST_F(DiffReportControlTest, ShowsTheEnginesPageWithItsDifferences) {
     EXPECT_EQ(control.DifferenceCount(), 2);
     control.GoToLastDifference();
     EXPECT_EQ(control.CurrentDifference(), 1);
+    // The last difference is "New" inserted and "Old" removed: both parts are lit.
+    EXPECT_TRUE(control
+                    .RunScript("var c = document.querySelectorAll('.orvane-current');"
+                               "c.length == 2 && c[1].textContent == 'Old'")
+                    .toBool());
     EXPECT_TRUE(control.FindText("quick"));
     const std::string saved = dir.Path() + "saved.html";
     ASSERT_TRUE(control.SaveReport(saved));

@@ -1,7 +1,7 @@
 #pragma once
 // Scripts the view runs in its own world: they work while the page's own scripts are off, and
-// the page cannot see or change them. Differences are the elements the report engine numbers
-// with data-orvane-diff="N"; the first of each carries the anchor id "orvane-diff-N".
+// the page cannot see or change them. Difference N starts at the anchor "orvane-diff-N", which
+// stands inside its first mark; its marks (ins, del, changed spans) run up to the next anchor.
 #include <QString>
 
 namespace orvane::report_scripts {
@@ -27,9 +27,20 @@ inline QString ShowDifference(int index) {
   }
   var old = document.querySelectorAll('.orvane-current');
   for (var i = 0; i < old.length; ++i) old[i].classList.remove('orvane-current');
-  var parts = document.querySelectorAll('[data-orvane-diff="' + k + '"]');
-  for (var j = 0; j < parts.length; ++j) parts[j].classList.add('orvane-current');
+  var parts = [];
   var anchor = document.getElementById('orvane-diff-' + k);
+  var next = document.getElementById('orvane-diff-' + (k + 1));
+  if (anchor) {
+    var isMark = function (e) {
+      return e.tagName == 'INS' || e.tagName == 'DEL' || e.classList.contains('orvane-changed');
+    };
+    var start = anchor.parentElement && isMark(anchor.parentElement) ? anchor.parentElement : anchor;
+    var walker = document.createTreeWalker(document.body, NodeFilter.SHOW_ELEMENT);
+    walker.currentNode = start;
+    for (var e = start; e && e !== next; e = walker.nextNode())
+      if (isMark(e) && !(next && e.contains(next))) parts.push(e);
+  }
+  for (var j = 0; j < parts.length; ++j) parts[j].classList.add('orvane-current');
   var target = parts.length ? parts[0] : anchor;
   if (!target) return false;
   target.scrollIntoView({block: 'center', inline: 'nearest'});

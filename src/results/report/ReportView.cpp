@@ -83,17 +83,7 @@ bool ReportView::ShowReport(const std::string& file, bool allowWeb) {
     differenceCount_ = 0;
     current_ = 0;
     lastFind_.clear();
-    const auto loaded = WaitFor<bool>(
-        [&](std::function<void(bool)> done) {
-            auto connection = std::make_shared<QMetaObject::Connection>();
-            *connection =
-                connect(page_, &QWebEnginePage::loadFinished, this, [connection, done](bool ok) {
-                    disconnect(*connection);
-                    done(ok);
-                });
-            page_->load(url);
-        },
-        kLoadWaitMs);
+    const auto loaded = LoadAndWait([&] { page_->load(url); });
     if (!loaded || !*loaded) {
         shownFile_.clear();
         return false;
@@ -104,13 +94,28 @@ bool ReportView::ShowReport(const std::string& file, bool allowWeb) {
     return true;
 }
 
+std::optional<bool> ReportView::LoadAndWait(const std::function<void()>& start) {
+    return WaitFor<bool>(
+        [&](std::function<void(bool)> done) {
+            auto connection = std::make_shared<QMetaObject::Connection>();
+            *connection = connect(page_, &QWebEnginePage::loadFinished, this,
+                                  [connection, done](bool ok) {
+                                      disconnect(*connection);
+                                      done(ok);
+                                  });
+            start();
+        },
+        kLoadWaitMs);
+}
+
 void ReportView::ClearReport() {
     shownFile_.clear();
     differenceCount_ = 0;
     current_ = 0;
     lastFind_.clear();
     page_->ExpectBlank();
-    page_->setHtml(QString(), QUrl("about:blank"));
+    // Waited for, so that its late end cannot pass for the next report's.
+    LoadAndWait([this] { page_->setHtml(QString(), QUrl("about:blank")); });
 }
 
 bool ReportView::SaveReport(const std::string& path) const {

@@ -3,6 +3,8 @@
 // searches and saves it. Nothing of the compared pages runs in it (see ReportPage).
 #include <QString>
 #include <QWidget>
+#include <functional>
+#include <optional>
 #include <string>
 
 class QWebEngineProfile;
@@ -50,6 +52,7 @@ class ReportView : public QWidget {
 
   private:
     void GoToDifference(int index);
+    std::optional<bool> LoadAndWait(const std::function<void()>& start);
     struct FindResult {
         int matches = 0;
         int active = 0;
