@@ -1,8 +1,10 @@
 #include "app/AppPrompter.h"
 #include "app/StartOptions.h"
 #include "app/TerminationSignal.h"
+#include "app/UnattendedRun.h"
 #include "app/modDiff.h"
 #include "frame/CommandLine.h"
+#include "results/report/WebEngineProcess.h"
 
 #include <QApplication>
 #include <iostream>
@@ -26,6 +28,16 @@ int main(int argc, char* argv[]) {
         std::cerr << early.Err;
         return early.Status;
     }
+    // A report-file run is told apart before any window toolkit starts: it needs no display.
+    // The shell has split the tokens already, so the first three are the three files.
+    const std::vector<std::string>& tokens = early.Arguments;
+    if (tokens.size() >= 3 && !tokens[0].empty() && !tokens[1].empty() && !tokens[2].empty()) {
+        std::cerr << early.Err;
+        QCoreApplication app(argc, argv);
+        return orvane::RunUnattended(QCoreApplication::applicationDirPath().toStdString(),
+                                     tokens[0], tokens[1], tokens[2]);
+    }
+    orvane::PrepareWebEngineProcess();
     QApplication app(argc, argv);
     QApplication::setApplicationName("Orvane");
     QApplication::setDesktopFileName("io.github.orvane.Orvane");

@@ -48,15 +48,7 @@ Program::~Program() {
 bool Program::Main(const std::string& appFolder, const std::string& commandLine) {
     std::string moduleName;
     try {
-        gAppPath = AddTrailingBackslash(appFolder);
-        if (!ProbeRequiredEngines(gAppPath, moduleName))
-            throw RuntimeError(err::CannotCreateObject);
-        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-        RouteErrorsToReportRun();
-        moduleName = EngineFileName(Engine::LineDiff);
-        gFileDiff = std::make_unique<FileDiffEngine>();
-        gExtractionOptions = std::make_unique<clsExtractionOptions>();
-        gStartDir = AddTrailingBackslash(std::filesystem::current_path().string());
+        if (!OpenSession(appFolder, moduleName)) throw RuntimeError(err::CannotCreateObject);
         auto* splash = new frmSplash([commandLine] { ShowMainWindow(commandLine); });
         splash->Form_Load();
         return true;
@@ -68,6 +60,18 @@ bool Program::Main(const std::string& appFolder, const std::string& commandLine)
             ReportUnexpectedError("modDiff.Main", {}, error);
         return false;
     }
+}
+
+bool Program::OpenSession(const std::string& appFolder, std::string& moduleName) {
+    gAppPath = AddTrailingBackslash(appFolder);
+    if (!ProbeRequiredEngines(gAppPath, moduleName)) return false;
+    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+    RouteErrorsToReportRun();
+    moduleName = EngineFileName(Engine::LineDiff);
+    gFileDiff = std::make_unique<FileDiffEngine>();
+    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    gStartDir = AddTrailingBackslash(std::filesystem::current_path().string());
+    return true;
 }
 
 void Program::EndProgram() {

@@ -17,6 +17,10 @@ class Program {
     // then shows the main window with `commandLine`. False when the program must end at once.
     bool Main(const std::string& appFolder, const std::string& commandLine);
 
+    // The session without a window: the engine libraries probed and the options and the line
+    // differ made. False, with the library's name, when a library cannot be loaded.
+    bool OpenSession(const std::string& appFolder, std::string& moduleName);
+
     // The orderly end after the window loop: a main window still open is closed (which saves the
     // options), then the session is released and the engine libraries unloaded. Runs once.
     void EndProgram();

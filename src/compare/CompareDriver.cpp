@@ -42,7 +42,7 @@ class Run {
     bool FetchWebPages();
     bool DetectFormats();
     bool ExtractTexts();
-    CompareOutcome RefuseOneWindowReport();
+    CompareOutcome ShowInReport();
     CompareOutcome ShowInGrids();
     void DeleteTemporaryFiles();
 
@@ -118,8 +118,7 @@ CompareOutcome Run::Go(bool SkipDialogue) {
             o_.OriginalDownloadFile.clear();
             o_.RevisedDownloadFile.clear();
             if (FetchWebPages() && DetectFormats() && ExtractTexts())
-                outcome =
-                    o_.OutputFormat != OutputOneWindow ? ShowInGrids() : RefuseOneWindowReport();
+                outcome = o_.OutputFormat != OutputOneWindow ? ShowInGrids() : ShowInReport();
         }
     } catch (...) {
         outcome = CompareOutcome::Failed;
@@ -210,17 +209,23 @@ bool Run::ExtractTexts() {
     return true;
 }
 
-// The merged one-window report is not built yet: say so rather than show nothing.
-CompareOutcome Run::RefuseOneWindowReport() {
+// Steps 16 to 18: the report compares and shows; a code other than 0 leaves it as it stands.
+CompareOutcome Run::ShowInReport() {
+    const int code = window_.CompareAndDisplayWithReport(ReportRequestFor(o_));
     window_.StopProgress();
-    const std::string text = "The one-window report is not available in this version. Choose "
-                             "Options > Output Format > Show Changes Side by Side (Two Windows).";
-    if (o_.RunFromCommandLine)
-        o_.CommandLineMessage = "Compare Files.  " + text;
-    else
-        prompter().MsgBox(text, MsgIcon::Information, "Compare Files");
-    window_.ResetResultsDisplay();
-    return CompareOutcome::Refused;
+    window_.SetBusyPointer(false);
+    prompter().DoEvents();
+    if (code != 0) {
+        const std::string text = ReportResultText(code);
+        if (o_.RunFromCommandLine)
+            o_.CommandLineMessage = text;
+        else
+            prompter().MsgBox(text, ReportResultIcon(code), "Compare Files");
+        return code == 1 ? CompareOutcome::Nothing : CompareOutcome::Refused;
+    }
+    window_.ShowReportResults();
+    window_.RecordRecentFiles(o_.OriginalFile, o_.RevisedFile);
+    return CompareOutcome::Shown;
 }
 
 // Steps 14 and 15: compare line by line, then show the result in the grids.

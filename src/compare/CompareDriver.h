@@ -3,6 +3,7 @@
 // is said on each way out. It knows no window: what it needs of its surroundings goes through
 // CompareSurroundings, and boxes go through the prompter.
 #include "compare/DiffRows.h"
+#include "compare/ReportPath.h"
 #include "settings/ViewOptions.h"
 
 #include <string>
@@ -34,6 +35,13 @@ class CompareSurroundings {
                                      const Alignment& alignment) = 0;
     virtual bool DrawDiffBars() = 0;
     virtual void ShowFirstDifference() = 0;
+    // The one-window report: empties the detail boxes, has the report compare the request's
+    // inputs and waits for it while events run (there is no time limit). The report's result
+    // code: 0 differences shown, 1 identical, others as ReportResultText says.
+    virtual int CompareAndDisplayWithReport(const ReportRequest& request) = 0;
+    // The report shows differences: the result commands on, bookmarks off (they live in the
+    // grids), and the report at its first difference.
+    virtual void ShowReportResults() = 0;
     virtual void RecordRecentFiles(const std::string& original, const std::string& revised) = 0;
 };
 

@@ -68,11 +68,6 @@ frmWhatAndHow::frmWhatAndHow(QWidget* parent) : QDialog(parent) {
                 [this, i] { optOutputFormats_Click(i); });
     connect(ok, &QPushButton::clicked, this, &frmWhatAndHow::OKButton_Click);
     Form_Load();
-    // Visual Aspect and One Window need the merged report, which is not built yet.
-    for (QRadioButton* unavailable : {optComparisonModes[0], optOutputFormats[0]}) {
-        unavailable->setEnabled(false);
-        unavailable->setToolTip("Not available in this version");
-    }
 }
 
 void frmWhatAndHow::Form_Load() {

@@ -15,6 +15,7 @@
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
 #include "results/LineDetailView.h"
+#include "results/report/DiffReportControl.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFileName.h"
 #include "settings/ProgramOptions.h"
@@ -134,7 +135,6 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
             grid->SetTextMatrix(0, 0, kIdlePrompt);
         }
         modIniFile::ReadProgramOptionsFromIniFile(*this);
-        KeepToAvailableOutputs();
         ApplyNewFont(GridFontName(kGrdOriginalFile), RoundToInt32(GridFontSize(kGrdOriginalFile)),
                      GridFontBold(kGrdOriginalFile), GridFontItalic(kGrdOriginalFile));
         ShowLineDiffPrompt();
@@ -149,8 +149,7 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
             if (!original.empty() && !revised.empty() && !report.empty()) firstRun = false;
             if (!original.empty()) cboOriginalFile->setEditText(Q(original));
             if (!revised.empty()) cboRevisedFile->setEditText(Q(revised));
-            // A third token asks for an unattended report run; until reports can be written the
-            // pair is compared in the window instead.
+            // A report-file run never reaches the window: the program runs it without one.
             if (!original.empty() && !revised.empty()) mnuFileCompare_Click();
         }
         show();
@@ -222,6 +221,7 @@ void frmFileDiffs::ResetResultsDisplay() {
     originalGrid_.SetRow(1);
     revisedGrid_.SetRow(1);
     originalGrid_.SetTopRow(1);
+    if (ReportShown()) ctlDiffReport->ClearReport();
     for (FlexGrid* grid : {&originalGrid_, &revisedGrid_})
         grid->SetRedraw(true);
     ShowLineDiffPrompt();
@@ -233,10 +233,14 @@ void frmFileDiffs::ShowLineDiffPrompt() {
 }
 
 void frmFileDiffs::ShowGridsOrVisualReport(bool ShowGrids) {
-    if (!ShowGrids) DoEvents();
+    if (!ShowGrids) {
+        ReportControl().ClearReport();
+        DoEvents();
+    }
     for (QWidget* w : std::initializer_list<QWidget*>{grdOriginalFile, grdRevisedFile,
                                                       rtfLineDiff[0], rtfLineDiff[1], Splitter})
         w->setVisible(ShowGrids);
+    if (ctlDiffReport) ctlDiffReport->setVisible(!ShowGrids);
     Form_Resize();
 }
 

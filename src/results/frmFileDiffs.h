@@ -24,6 +24,7 @@ class Commands;
 class DiffBarView;
 class FlexGridView;
 class LineDetailView;
+class DiffReportControl;
 
 QWidget* MakeSplitterHandle(class frmFileDiffs& window, QWidget* parent);
 
@@ -94,6 +95,9 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSur
     void DisplayLineDiffsCharLevel();
     void DisplayLineDiffsWordLevel();
     LineDetailView* DetailBox(int index) const { return rtfLineDiff[index]; }
+    // The one-window report, when it is the visible output.
+    bool ReportShown() const;
+    DiffReportControl* Report() const { return ctlDiffReport; }
     DiffBarView* DiffsBar() const { return pctContainer; }
     void Form_Resize();
     void ApplyNewFont(const std::string& FontName, int FontSize, bool FontBold, bool FontItalic);
@@ -163,7 +167,6 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSur
     float Twips(int pixels) const;
     int Pixels(float twips) const;
     void ConnectCommands();
-    void KeepToAvailableOutputs();
     void DiffDetailOption(int i);
     void mnuOptionsFont_Click();
     FlexGridView& NamedGrid(const std::string& grid) const;
@@ -193,6 +196,12 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSur
     void RecordRecentFiles(const std::string& original, const std::string& revised) override {
         AddFilesToIni(original, revised);
     }
+    int CompareAndDisplayWithReport(const ReportRequest& request) override;
+    void ShowReportResults() override;
+    DiffReportControl& ReportControl();
+    void ApplyReportFont();
+    void StepInReport(bool forward);
+    bool FindInReport(const std::string& text, bool first, bool forward);
     void SelectFile(Side side);
     bool ViewerSource(Side side, std::string& source, bool& isUrl);
     std::string DownloadForViewer(Side side, const std::string& url);
@@ -204,6 +213,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSur
     QComboBox* cboOriginalFile = nullptr;
     QComboBox* cboRevisedFile = nullptr;
     LineDetailView* rtfLineDiff[2] = {nullptr, nullptr};
+    DiffReportControl* ctlDiffReport = nullptr; // made on first use
     QProgressBar* Animation1 = nullptr;
     DiffBarView* pctContainer = nullptr;
     QWidget* client_ = nullptr;

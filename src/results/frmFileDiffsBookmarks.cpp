@@ -111,11 +111,12 @@ void frmFileDiffs::mnuFileFind_Click() {
         text.empty())
         return;
     long row = 0;
-    const bool found = Find(text, "Both", row);
+    const bool inReport = ReportShown();
+    const bool found = inReport ? FindInReport(text, true, true) : Find(text, "Both", row);
     if (found) {
         SearchTextList.push_back(text);
-        FollowRow(row);
-    } else if (originalGrid_.Row() != 1) {
+        if (!inReport) FollowRow(row);
+    } else if (!inReport && originalGrid_.Row() != 1) {
         prompter().MsgBox("Search text was not found.  Try searching from the beginning of the "
                           "file.",
                           MsgIcon::Information, "Find");
@@ -127,6 +128,14 @@ void frmFileDiffs::mnuFileFind_Click() {
 
 void frmFileDiffs::mnuFileFindAgain_Click(bool forward) {
     if (SearchTextList.empty() || SearchTextList.back().empty()) return;
+    if (ReportShown()) {
+        const std::string text = SearchTextList.back();
+        if (FindInReport(text, false, forward))
+            SearchTextList.push_back(text);
+        else
+            prompter().MsgBox("Search text was not found.", MsgIcon::Information, "Find");
+        return;
+    }
     long row = 0;
     if (Find(SearchTextList.back(), forward ? "Next" : "Previous", row))
         FollowRow(row);

@@ -153,19 +153,6 @@ void frmFileDiffs::ConnectCommands() {
 
 // The merged one-window report, which Visual Aspect mode needs, is not built yet: those two
 // choices stay off, and a stored choice of either starts as Source Code, side by side.
-void frmFileDiffs::KeepToAvailableOutputs() {
-    for (const char* item : {"mnuOptionsComparisonModeOption", "mnuOptionsOutputFormatOption"}) {
-        QAction* unavailable = commands_->Item(item, 0);
-        unavailable->setEnabled(false);
-        unavailable->setToolTip("Not available in this version");
-    }
-    if (gViewOptions->ComparisonMode == ModeVisual) gViewOptions->ComparisonMode = ModeCode;
-    if (gViewOptions->OutputFormat == OutputOneWindow)
-        gViewOptions->OutputFormat = OutputSideBySide;
-    CheckOnly(*commands_, "mnuOptionsComparisonModeOption", 3, gViewOptions->ComparisonMode);
-    CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, gViewOptions->OutputFormat);
-}
-
 void frmFileDiffs::ComparisonModeOption(int i) {
     CheckOnly(*commands_, "mnuOptionsComparisonModeOption", 3, i);
     gViewOptions->ComparisonMode = i;
@@ -205,6 +192,9 @@ void frmFileDiffs::mnuOptionsFont_Click() {
                         GridFontBold(kGrdOriginalFile), GridFontItalic(kGrdOriginalFile)};
         if (!prompter().FontDialog("Select Font", font)) return; // cancelled: nothing changes
         ApplyNewFont(font.Name, font.Size, font.Bold, font.Italic);
+        if (ReportShown())
+            prompter().MsgBox("The font change will occur on your next comparison.",
+                              MsgIcon::Information, "Change Font");
     } catch (...) {
         ReportUnexpectedError("frmFileDiffs.mnuOptionsFont_Click");
     }

@@ -6,6 +6,7 @@
 #include "results/FlexGridView.h"
 #include "results/LineDetailView.h"
 #include "results/frmFileDiffs.h"
+#include "results/report/DiffReportControl.h"
 #include "settings/Session.h"
 #include "settings/ViewOptions.h"
 
@@ -119,6 +120,7 @@ void frmFileDiffs::PlaceRegions() {
     place(Splitter, regions_.Splitter);
     place(rtfLineDiff[0], regions_.rtfLineDiff0);
     place(rtfLineDiff[1], regions_.rtfLineDiff1);
+    if (ctlDiffReport) place(ctlDiffReport, regions_.ctlDiffReport);
     grdOriginalFile->setColumnWidth(0, Pixels(static_cast<float>(regions_.OriginalColWidth)));
     grdRevisedFile->setColumnWidth(0, Pixels(static_cast<float>(regions_.RevisedColWidth)));
 }
@@ -150,6 +152,7 @@ void frmFileDiffs::ApplyNewFont(const std::string& FontName, int FontSize, bool 
         SetGridFontBold(grid, FontBold);
         SetGridFontItalic(grid, FontItalic);
     }
+    ApplyReportFont();
 }
 
 bool frmFileDiffs::eventFilter(QObject* watched, QEvent* event) {

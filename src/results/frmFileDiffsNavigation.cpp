@@ -4,6 +4,7 @@
 #include "results/DiffBarView.h"
 #include "results/Navigation.h"
 #include "results/frmFileDiffs.h"
+#include "results/report/DiffReportControl.h"
 
 namespace orvane {
 
@@ -36,6 +37,7 @@ void frmFileDiffs::MarkCurrentRowInDiffsBar() {
 }
 
 void frmFileDiffs::DiffsBar_MouseDown(float Y) {
+    if (ReportShown()) return;
     if (ShowsPrompt(Side::Original)) {
         prompter().MsgBox("This feature only works when two files have been compared and there "
                           "are differences.",
@@ -95,6 +97,7 @@ long frmFileDiffs::GetPreviousDiff() {
 
 void frmFileDiffs::StepToDiff(bool forward) {
     if (mousePointer_ == PointerHourglass) return;
+    if (ReportShown()) return StepInReport(forward);
     const long row = forward ? GetNextDiff() : GetPreviousDiff();
     if (row != kNoMoreDiffs && row != kNavigationBusy)
         FollowRow(row);
@@ -112,6 +115,10 @@ void frmFileDiffs::mnuFileShowPreviousDiff_Click() {
 
 void frmFileDiffs::ShowFirstOrLast(bool first) {
     if (mousePointer_ == PointerHourglass) return;
+    if (ReportShown()) {
+        first ? ctlDiffReport->GoToFirstDifference() : ctlDiffReport->GoToLastDifference();
+        return;
+    }
     try {
         const long row = DiffRowAt(DiffList_, first ? 1 : DiffList_.size());
         if (!originalGrid_.RowIsVisible(row)) {

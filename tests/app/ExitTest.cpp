@@ -1,33 +1,13 @@
 // The real program, started as a user starts it, must end cleanly on every way out and keep the
 // session's options. Objects that live in an engine library must be gone before it is unloaded.
 #include "support/Process.h"
-#include "support/TempDir.h"
+#include "tests/app/InstalledProgram.h"
 
 #include <csignal>
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace orvane::test {
 namespace {
-
-const char* kPrograms[] = {"orvane",         "libkwcommon.so", "libdetfile.so",
-                           "libdetagger.so", "libdoctxt.so",   "liblinediff.so"};
-
-// A program folder of our own, so that its settings file is ours too.
-std::string InstallProgram(const TempDir& dir) {
-    for (const char* name : kPrograms)
-        std::filesystem::copy_file(std::string(ORVANE_BIN_DIR) + name, dir.Path() + name);
-    return dir.Path() + "orvane";
-}
-
-std::string ReadAll(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
 
 // A minified page: one line of about 1 MB.
 std::string OneLinePage(char word) {

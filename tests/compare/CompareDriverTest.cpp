@@ -4,9 +4,12 @@
 #include "compare/FileDiffEngine.h"
 #include "frame/EngineLibraries.h"
 #include "frame/ProgramFolder.h"
+#include "settings/ExtractionOptions.h"
+#include "settings/Session.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -51,6 +54,15 @@ class FakeWindow : public CompareSurroundings {
     void RecordRecentFiles(const std::string&, const std::string&) override {
         calls.push_back("recent");
     }
+    int CompareAndDisplayWithReport(const ReportRequest& r) override {
+        calls.push_back("compare-report");
+        request = r;
+        return reportCode;
+    }
+    void ShowReportResults() override { calls.push_back("report-results"); }
+
+    int reportCode = 0;
+    ReportRequest request;
 };
 
 class Driver : public ::testing::Test {
@@ -156,7 +168,6 @@ INSTANTIATE_TEST_SUITE_P(
                               "Revised file is not an existing file."},
                       Refusal{"FolderAsFile", "@folder", "@file", "File Does Not Exist",
                               "Original file is not an existing file."},
-                      // a bare host name is refused before any look at the disk
                       // reading a FIFO or a device would hang or grow without end
                       Refusal{"FifoAsFile", "@file", "@fifo", "File Does Not Exist",
                               "Revised file is not an existing file."},
@@ -164,6 +175,7 @@ INSTANTIATE_TEST_SUITE_P(
                               "Original file is not an existing file."},
                       Refusal{"DeviceAsFile", "/dev/zero", "@file", "File Does Not Exist",
                               "Original file is not an existing file."},
+                      // a bare host name is refused before any look at the disk
                       Refusal{"BareHostBeforeMissing", "wwwpage.html", "@missing",
                               "Invalid URL Format", "Web Addresses must begin with HTTP://"}),
     [](const auto& info) { return std::string(info.param.name); });
@@ -188,13 +200,90 @@ TEST_F(Driver, IdenticalFilesSaySoAndShowNothing) {
                                    "thaw", "stop", "idle"}));
 }
 
-TEST_F(Driver, TheOneWindowReportIsRefusedAfterTheInputsAreRead) {
+TEST_F(Driver, TheReportShowsItsDifferencesThenTheyAreRecorded) {
     options.OutputFormat = OutputOneWindow;
-    EXPECT_EQ(Compare(dir.Write("a.html", "1\n"), dir.Write("b.html", "2\n")),
-              CompareOutcome::Refused);
-    ASSERT_EQ(prompter->boxes.size(), 1u);
-    EXPECT_EQ(prompter->boxes[0].icon, MsgIcon::Information);
-    EXPECT_EQ(window.calls[1], "report");
+    options.ComparisonMode = ModeVisual;
+    options.IgnoreWhiteSpace = true;
+    options.IgnoreTextFormatting = true;
+    options.ComparisonLevel = LevelWord;
+    options.ShowLineNumbers = false;
+    const std::string a = dir.Write("a.html", "<p>1</p>\n"), b = dir.Write("b.html", "<p>2</p>\n");
+    EXPECT_EQ(Compare(a, b), CompareOutcome::Shown);
+    EXPECT_EQ(window.calls, (Calls{"busy", "report", "start", "prepare", "compare-report", "stop",
+                                   "idle", "report-results", "recent", "thaw", "stop", "idle"}));
+    EXPECT_TRUE(prompter->boxes.empty());
+    const ReportRequest& r = window.request;
+    EXPECT_EQ(r.Original, a);
+    EXPECT_EQ(r.Revised, b);
+    EXPECT_EQ(r.CompareKind, 2);
+    EXPECT_EQ(r.WhiteSpaceMode, 2);
+    EXPECT_TRUE(r.IgnoreFormatting);
+    EXPECT_FALSE(r.IgnoreCase);
+    EXPECT_EQ(r.Level, LevelWord);
+    EXPECT_FALSE(r.ShowNumbers);
+    EXPECT_FALSE(r.AllowWeb);
+}
+
+TEST_F(Driver, TheReportComparesWhatEachModeNames) {
+    options.OutputFormat = OutputOneWindow;
+    const std::string a = dir.Write("a.html", "<p>one</p>\n"),
+                      b = dir.Write("b.html", "<p>two</p>\n");
+    options.ComparisonMode = ModeCode;
+    Compare(a, b);
+    EXPECT_EQ(window.request.CompareKind, 3);
+    EXPECT_EQ(window.request.WhiteSpaceMode, 0);
+    options.ComparisonMode = ModeText; // the extracted texts, not the pages
+    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+    Compare(a, b);
+    gViewOptions.reset();
+    gExtractionOptions.reset();
+    EXPECT_EQ(window.request.CompareKind, 0);
+    EXPECT_NE(window.request.Original, a);
+    EXPECT_EQ(window.request.Original.substr(window.request.Original.size() - 4), ".wtd");
+    EXPECT_FALSE(std::filesystem::exists(window.request.Original)) << "removed on the way out";
+}
+
+// Every code but 0 is told in one box titled "Compare Files", or in the unattended message.
+TEST_F(Driver, TheReportsCodesAreToldByTheirTable) {
+    options.OutputFormat = OutputOneWindow;
+    const std::string a = dir.Write("a.html", "1\n"), b = dir.Write("b.html", "2\n");
+    const struct {
+        int code;
+        const char* text;
+        MsgIcon icon;
+    } cases[] = {
+        {1, "The files are identical.", MsgIcon::Information},
+        {2, "An unknown problem occurred while comparing the files.", MsgIcon::Exclamation},
+        {3, "The same file has been defined as both the Original and the Revised file.",
+         MsgIcon::Information},
+        {4, "One of the files is not in HTML format.", MsgIcon::Information},
+        {5, "Unable to prepare the Original file for comparison.", MsgIcon::Information},
+        {6, "Unable to prepare the Revised file for comparison.", MsgIcon::Information},
+        {7, "Files contain different number of frames.", MsgIcon::Information},
+        {-3, "An error code -3 occurred while comparing the files.", MsgIcon::Information},
+    };
+    for (const auto& c : cases) {
+        window.reportCode = c.code;
+        prompter->boxes.clear();
+        window.calls.clear();
+        options.RunFromCommandLine = false;
+        EXPECT_EQ(Compare(a, b), c.code == 1 ? CompareOutcome::Nothing : CompareOutcome::Refused);
+        ASSERT_EQ(prompter->boxes.size(), 1u) << c.code;
+        EXPECT_EQ(prompter->boxes[0].title, "Compare Files");
+        EXPECT_EQ(prompter->boxes[0].text, c.text);
+        EXPECT_EQ(prompter->boxes[0].icon, c.icon);
+        // The report stays as the run left it: no reset, no results commands.
+        EXPECT_EQ(std::count(window.calls.begin(), window.calls.end(), "reset"), 0);
+        EXPECT_EQ(std::count(window.calls.begin(), window.calls.end(), "report-results"), 0);
+
+        prompter->boxes.clear();
+        options.RunFromCommandLine = true;
+        options.CommandLineMessage.clear();
+        Compare(a, b);
+        EXPECT_TRUE(prompter->boxes.empty());
+        EXPECT_EQ(options.CommandLineMessage, c.text);
+    }
 }
 
 TEST_F(Driver, AFetchedPageIsRemovedOnTheWayOut) {

@@ -43,16 +43,5 @@ TEST(DetagCli, ConvertsWithTheGivenPolicies) {
     EXPECT_EQ(Read(dir.Path() + "b.txt"), "one two\r\n");
 }
 
-TEST(DetagCli, FailurePrintsTheErrorTextAndExitsOne) {
-    TempDir dir;
-    const std::string page = dir.Write("p.html", "<p>x");
-    const CliRun badPolicy = Detag({page, dir.Path() + "a.txt", "Colour=Yes"});
-    EXPECT_EQ(badPolicy.exitCode, 1);
-    EXPECT_EQ(badPolicy.out, "Unknown policy name.\n");
-    const CliRun missing = Detag({dir.Path() + "none.html", dir.Path() + "a.txt"});
-    EXPECT_EQ(missing.exitCode, 1);
-    EXPECT_EQ(missing.out, "The specified file could not be found\n");
-}
-
 } // namespace
 } // namespace orvane::test

@@ -113,6 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"LinediffMissingFile", "linediff", "@page @out", 2, "", "out.txt"},
         Case{"DetagMissingInput", "detag", "@out @page", 2, "", "out.txt"},
         Case{"DetagBadPolicy", "detag", "@page @out nopolicy", 1, "", "detag: "},
+        Case{"DetagUnknownPolicy", "detag", "@page @out Colour=Yes", 1, "", "Unknown policy name."},
         // and the ordinary answers stay on standard output
         Case{"LinediffDifferent", "linediff", "@page @other", 1, "Hello", ""},
         Case{"LinediffsMarks", "linediffs", "@page @page", 0, "1111", ""},

@@ -126,7 +126,7 @@ TEST_F(LineDiffCommandLine, ExitStatusAndOutputFollowTheEngine) {
     }
     auto trouble = Run({a, dir.Path() + "/none"});
     EXPECT_EQ(trouble.status, 2);
-    EXPECT_NE(trouble.out.find(dir.Path() + "/none"), std::string::npos);
+    EXPECT_NE(trouble.err.find(dir.Path() + "/none"), std::string::npos);
 }
 
 TEST_F(LineDiffCommandLine, WrongUsageExplainsOnStandardError) {

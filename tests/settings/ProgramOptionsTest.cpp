@@ -1,3 +1,4 @@
+#include "settings/MemoryOptionsWindow.h"
 #include "settings/ProgramOptions.h"
 
 #include "SettingsTestSupport.h"
@@ -18,38 +19,8 @@
 namespace orvane::test {
 namespace {
 
-struct Font {
-    std::string Name = "Arial";
-    double Size = 10;
-    bool Bold = false;
-    bool Italic = false;
-};
-
-class FakeWindow : public OptionsWindow {
-  public:
-    std::map<std::pair<std::string, int>, bool> Checks;
-    std::map<std::string, int> GridLines;
-    std::map<std::string, Font> Fonts;
-
-    void SetMenuChecked(const std::string& name, int index, bool checked) override {
-        Checks[{name, index}] = checked;
-    }
-    bool MenuChecked(const std::string& name, int index) const override {
-        const auto it = Checks.find({name, index});
-        return it != Checks.end() && it->second;
-    }
-    void SetGridLines(const std::string& grid, int lines) override { GridLines[grid] = lines; }
-    std::string GridFontName(const std::string& g) const override { return Fonts.at(g).Name; }
-    double GridFontSize(const std::string& g) const override { return Fonts.at(g).Size; }
-    bool GridFontBold(const std::string& g) const override { return Fonts.at(g).Bold; }
-    bool GridFontItalic(const std::string& g) const override { return Fonts.at(g).Italic; }
-    void SetGridFontName(const std::string& grid, const std::string& name) override {
-        Fonts[grid].Name = name;
-    }
-    void SetGridFontSize(const std::string& g, double points) override { Fonts[g].Size = points; }
-    void SetGridFontBold(const std::string& g, bool bold) override { Fonts[g].Bold = bold; }
-    void SetGridFontItalic(const std::string& g, bool it) override { Fonts[g].Italic = it; }
-};
+using FakeWindow = MemoryOptionsWindow;
+using Font = MemoryOptionsWindow::Font;
 
 // The file as Save writes it from the first-run state: 25 keys in five sections.
 const std::string kDefaultFile = "[Compare]\r\n"
