@@ -202,6 +202,8 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSur
     void ApplyReportFont();
     void StepInReport(bool forward);
     bool FindInReport(const std::string& text, bool first, bool forward);
+    void PrintShownReport();
+    void PrintShownReportToPdf();
     void SelectFile(Side side);
     bool ViewerSource(Side side, std::string& source, bool& isUrl);
     std::string DownloadForViewer(Side side, const std::string& url);

@@ -110,8 +110,9 @@ void frmFileDiffs::ConnectCommands() {
         frmTestFileFormat dialogue(this);
         ShowModal(dialogue);
     });
-    c.On("mnuFilePrint", [this] { PrintGrids(*this, {}); });
-    c.On("mnuFilePrintToPdf", [this] { PrintGridsToPdf(*this); });
+    c.On("mnuFilePrint", [this] { ReportShown() ? PrintShownReport() : PrintGrids(*this, {}); });
+    c.On("mnuFilePrintToPdf",
+         [this] { ReportShown() ? PrintShownReportToPdf() : PrintGridsToPdf(*this); });
     c.On("mnuHelpVisitKestwickWeb", [] { VisitHomePage(); });
     c.On("mnuHelpContactUs", [] { ContactUs(); });
     c.On("mnuHelpContent", [] {

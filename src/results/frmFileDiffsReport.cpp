@@ -9,6 +9,7 @@
 #include "settings/Session.h"
 
 #include <QEventLoop>
+#include <QPrinterInfo>
 #include <QTimer>
 
 namespace orvane {
@@ -93,6 +94,34 @@ void frmFileDiffs::StepInReport(bool forward) {
 bool frmFileDiffs::FindInReport(const std::string& text, bool first, bool forward) {
     const QString t = QString::fromStdString(text);
     return first ? ctlDiffReport->FindText(t) : ctlDiffReport->FindAgain(t, forward);
+}
+
+// The report prints itself on the system's default printer, as it looks on screen.
+void frmFileDiffs::PrintShownReport() {
+    const QString printer = QPrinterInfo::defaultPrinterName();
+    if (printer.isEmpty()) {
+        prompter().MsgBox("There are no printers set up on your computer.\r\nGo to Control Panel "
+                          "--> Printers to add a printer.",
+                          MsgIcon::Critical, "Print");
+        return;
+    }
+    SetMousePointer(PointerHourglass);
+    const bool printed = ctlDiffReport->PrintReport(printer.toStdString());
+    SetMousePointer(PointerDefault);
+    if (!printed)
+        prompter().MsgBox("The report could not be printed on " + printer.toStdString() + ".",
+                          MsgIcon::Exclamation, "Print");
+}
+
+void frmFileDiffs::PrintShownReportToPdf() {
+    std::string file;
+    if (!prompter().SaveFileDialog("Print to PDF", "PDF files (*.pdf)", file)) return;
+    SetMousePointer(PointerHourglass);
+    const bool printed = ctlDiffReport->PrintToPdf(file);
+    SetMousePointer(PointerDefault);
+    if (!printed)
+        prompter().MsgBox("The report could not be written to " + file + ".", MsgIcon::Exclamation,
+                          "Print to PDF");
 }
 
 } // namespace orvane

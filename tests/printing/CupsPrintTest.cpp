@@ -5,9 +5,12 @@
 #include "printing/CupsQueue.h"
 #include "printing/PdfTools.h"
 #include "printing/RecordingSurface.h"
+#include "results/report/DiffReportControl.h"
 #include "support/RecordingPrompter.h"
+#include "support/TempDir.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -30,7 +33,13 @@ std::vector<std::string> PdfsIn(const std::string& folder, std::size_t want) {
         for (const auto& entry : fs::directory_iterator(folder))
             if (entry.path().extension() == ".pdf") found.push_back(entry.path());
     }
-    std::this_thread::sleep_for(std::chrono::milliseconds(300)); // let the writer finish
+    // The writer may still be at work: a file counts once it reads as a whole PDF.
+    for (int i = 0; i < 100; ++i) {
+        if (std::all_of(found.begin(), found.end(),
+                        [](const std::string& f) { return PageCount(f) > 0; }))
+            break;
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
     std::sort(found.begin(), found.end());
     return found;
 }
@@ -75,6 +84,27 @@ TEST(CupsPrint, TheDialoguePrintsEachFileAsAJobOnTheDefaultQueue) {
         PagesOnQueueLayout(queue.Name(), source.revised, queue.OutputFolder() + "../expected.pdf");
     ASSERT_GT(expected, 1);
     EXPECT_EQ(pages, (std::vector<int>{1, expected}));
+}
+
+// The merged report goes to the queue as the PDF the view lays out (that its words stay text is
+// checked where the PDF is kept; the queue's printer redraws them).
+TEST(CupsPrint, TheReportPrintsAsItLooksOnTheQueue) {
+    if (!HavePoppler()) GTEST_SKIP() << "poppler-utils not installed";
+    CupsQueue queue;
+    if (!queue.Unavailable().empty()) GTEST_SKIP() << "no private CUPS: " << queue.Unavailable();
+    TempDir dir;
+    DiffReportControl report;
+    report.resize(800, 600);
+    report.SetOriginalSource(dir.Write("a.html", "<p>The quick brown fox.</p>"));
+    report.SetRevisedSource(dir.Write("b.html", "<p>The quick red fox.</p>"));
+    report.StartCompare();
+    while (!report.IsDone())
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+    ASSERT_EQ(report.GetResult(), 0);
+    ASSERT_TRUE(report.PrintReport(queue.Name()));
+    const auto pdfs = PdfsIn(queue.OutputFolder(), 1);
+    ASSERT_EQ(pdfs.size(), 1u) << "cups-pdf wrote no output in " << queue.OutputFolder();
+    EXPECT_EQ(PageCount(pdfs[0]), 1);
 }
 
 } // namespace

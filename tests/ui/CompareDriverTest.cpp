@@ -77,14 +77,6 @@ TEST_F(DriverTest, ForceTextShowsFilesWithNulBytes) {
     EXPECT_EQ(window->Diffs(), (DiffList{{1, 1, DiffKind::Changed}}));
 }
 
-TEST_F(DriverTest, TheOneWindowReportIsRefusedPlainly) {
-    gViewOptions->OutputFormat = OutputOneWindow;
-    Compare(dir.Write("a.html", "1\n"), dir.Write("b.html", "2\n"));
-    ASSERT_EQ(prompter->boxes.size(), 1u);
-    EXPECT_EQ(prompter->boxes[0].title, "Compare Files");
-    EXPECT_TRUE(Idle());
-}
-
 TEST_F(DriverTest, AnUnknownFormatStopsTheRun) {
     Compare(dir.Write("a.dat", std::string("\x01\x02\x03\x00\xff", 5)), dir.Write("b.html", "x\n"));
     ASSERT_EQ(prompter->boxes.size(), 1u);

@@ -35,9 +35,8 @@ TEST_F(DialogsTest, WhatAndHowKeepsVisualAspectInOneWindow) {
     EXPECT_EQ(gViewOptions->ComparisonMode, ModeText);
     EXPECT_EQ(gViewOptions->OutputFormat, OutputSideBySide);
     EXPECT_FALSE(gViewOptions->ShowDialogueBeforeComparison);
-    // The choices that need the merged report are not offered yet.
-    EXPECT_FALSE(d.ComparisonModeOption(0)->isEnabled());
-    EXPECT_FALSE(d.OutputFormatOption(0)->isEnabled());
+    EXPECT_TRUE(d.ComparisonModeOption(0)->isEnabled());
+    EXPECT_TRUE(d.OutputFormatOption(0)->isEnabled());
 }
 
 TEST_F(DialogsTest, TheSecondGuardOfTheOutputChoice) {

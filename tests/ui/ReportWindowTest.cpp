@@ -6,7 +6,9 @@
 #include "tests/ui/DriverFixture.h"
 
 #include <QAction>
+#include <QProcess>
 #include <QTest>
+#include <filesystem>
 
 namespace orvane::test {
 namespace {
@@ -105,6 +107,24 @@ TEST_F(ReportWindowTest, VisualAspectRefusesSideBySideAndIdenticalPagesSaySo) {
     EXPECT_EQ(prompter->boxes[0].title, "Compare Files");
     EXPECT_EQ(prompter->boxes[0].text, "The files are identical.");
     EXPECT_TRUE(window->ReportShown()) << "a code other than 0 leaves the report as it stands";
+}
+
+TEST_F(ReportWindowTest, PrintToPdfWritesTheReportWithItsText) {
+    Choose("mnuOptionsOutputFormatOption", 0);
+    ASSERT_TRUE(window->ReportShown());
+    const std::string pdf = dir.Path() + "report.pdf";
+    prompter->saveFiles.push_back(pdf);
+    Choose("mnuFilePrintToPdf", -1);
+    EXPECT_TRUE(prompter->boxes.empty());
+    ASSERT_TRUE(std::filesystem::exists(pdf));
+    // Text stays text: the words come back out of the file, the removed one too.
+    QProcess pdftotext;
+    pdftotext.start("pdftotext", {QString::fromStdString(pdf), "-"});
+    ASSERT_TRUE(pdftotext.waitForFinished(30'000));
+    const QString text = pdftotext.readAllStandardOutput();
+    EXPECT_TRUE(text.contains("quick")) << text.toStdString();
+    EXPECT_TRUE(text.contains("brown"));
+    EXPECT_TRUE(text.contains("red"));
 }
 
 } // namespace

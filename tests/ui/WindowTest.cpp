@@ -150,15 +150,12 @@ TEST_F(WindowTest, VisualAspectPushesTheOutputToOneWindow) {
     EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
 }
 
-TEST_F(WindowTest, ChoicesThatNeedTheMergedReportStayOff) {
-    EXPECT_FALSE(Item("mnuOptionsComparisonModeOption", 0)->isEnabled());
-    EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 0)->isEnabled());
-    // The first-run defaults (Visual Aspect, and what a stored One Window would be) start as
-    // Source Code, side by side.
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeCode);
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputSideBySide);
-    EXPECT_TRUE(Item("mnuOptionsComparisonModeOption", 1)->isChecked());
-    EXPECT_TRUE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
+// Visual Aspect and One Window are offered, and a stored choice of them is kept as read.
+TEST_F(WindowTest, VisualAspectAndOneWindowAreOfferedAndKept) {
+    EXPECT_TRUE(Item("mnuOptionsComparisonModeOption", 0)->isEnabled());
+    EXPECT_TRUE(Item("mnuOptionsOutputFormatOption", 0)->isEnabled());
+    EXPECT_EQ(gViewOptions->ComparisonMode, ModeVisual); // the first-run default
+    EXPECT_TRUE(Item("mnuOptionsComparisonModeOption", 0)->isChecked());
 }
 
 } // namespace

@@ -1,10 +1,12 @@
 // Renders the main window offscreen after comparing two files and saves it as a PNG, for the
-// documentation: orvane_screenshot ORIGINAL REVISED OUT.png [WIDTH HEIGHT]
+// documentation: orvane_screenshot ORIGINAL REVISED OUT.png [WIDTH HEIGHT [visual]]
+// With "visual" the window shows the merged report of the visual aspect instead of the grids.
 #include "compare/FileDiffEngine.h"
 #include "frame/EngineLibraries.h"
 #include "frame/KWCommon.h"
 #include "frame/ProgramFolder.h"
 #include "results/frmFileDiffs.h"
+#include "results/report/WebEngineProcess.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/Session.h"
 #include "settings/ViewOptions.h"
@@ -12,7 +14,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QPixmap>
+#include <QThread>
 #include <cstdio>
+#include <string>
 
 int main(int argc, char* argv[]) {
     if (argc < 4) {
@@ -20,7 +24,9 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    orvane::PrepareWebEngineProcess();
     QApplication app(argc, argv);
+    const bool visual = argc >= 7 && std::string(argv[6]) == "visual";
     using namespace orvane;
     gAppPath = AddTrailingBackslash(QApplication::applicationDirPath().toStdString());
     gViewOptions = std::make_unique<cViewFileDiffsOptions>();
@@ -28,7 +34,9 @@ int main(int argc, char* argv[]) {
     gExtractionOptions = std::make_unique<clsExtractionOptions>();
     frmFileDiffs window;
     window.Form_Load("");
-    gViewOptions->OutputFormat = OutputSideBySide;
+    window.show();
+    gViewOptions->OutputFormat = visual ? OutputOneWindow : OutputSideBySide;
+    if (visual) gViewOptions->ComparisonMode = ModeVisual;
     if (argc >= 6) window.resize(std::atoi(argv[4]), std::atoi(argv[5]));
     QApplication::processEvents();
     // Drag the splitter to the middle, as a user with a wide window would.
@@ -42,7 +50,11 @@ int main(int argc, char* argv[]) {
     window.OriginalFileBox()->setEditText(argv[1]);
     window.RevisedFileBox()->setEditText(argv[2]);
     window.CompareFiles(true);
-    QApplication::processEvents();
+    // The report paints a moment after it has loaded.
+    for (int i = 0; i < 40; ++i) {
+        QApplication::processEvents();
+        QThread::msleep(25);
+    }
     const bool saved = window.grab().save(argv[3]);
     window.hide();
     return saved ? 0 : 1;

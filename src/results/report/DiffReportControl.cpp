@@ -3,6 +3,7 @@
 #include "intake/Locations.h"
 #include "report/Report.h"
 
+#include <QProcess>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -12,10 +13,10 @@
 namespace orvane {
 namespace {
 
-std::string NewReportFile() {
+std::string NewReportFile(const std::string& extension = ".html") {
     std::string pattern =
-        (std::filesystem::temp_directory_path() / "orvane-report-XXXXXX.html").string();
-    const int fd = ::mkstemps(pattern.data(), 5);
+        (std::filesystem::temp_directory_path() / ("orvane-report-XXXXXX" + extension)).string();
+    const int fd = ::mkstemps(pattern.data(), static_cast<int>(extension.size()));
     if (fd < 0) return {};
     ::close(fd);
     return pattern;
@@ -73,6 +74,20 @@ void DiffReportControl::ShowResult(report::ReportResult result) {
     // A page that will not show is a problem of ours, not a difference.
     if (!ShowReport(reportFile_, IsWeb(original_) || IsWeb(revised_)))
         result_ = report::kUnknownProblem;
+}
+
+bool DiffReportControl::PrintReport(const std::string& printer) {
+    const std::string pdf = NewReportFile(".pdf");
+    bool sent = false;
+    if (PrintToPdf(pdf)) {
+        QProcess lp;
+        lp.start("lp", {"-d", QString::fromStdString(printer), "--", QString::fromStdString(pdf)});
+        // lp copies the file into the spool before it ends, so the file can go afterwards.
+        sent = lp.waitForFinished(60'000) && lp.exitStatus() == QProcess::NormalExit &&
+               lp.exitCode() == 0;
+    }
+    std::remove(pdf.c_str());
+    return sent;
 }
 
 void DiffReportControl::ClearReport() {

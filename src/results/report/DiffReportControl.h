@@ -34,6 +34,8 @@ class DiffReportControl : public ReportView {
     int GetResult() const { return result_; }
 
     void ClearReport() override;
+    // Prints the shown report on `printer` (a CUPS queue): its PDF goes to the queue as it is.
+    bool PrintReport(const std::string& printer);
 
   private:
     void ShowResult(report::ReportResult result);

@@ -6,6 +6,8 @@
 
 #include <QEventLoop>
 #include <QFile>
+#include <QPageLayout>
+#include <QPageSize>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineFindTextResult>
@@ -98,11 +100,11 @@ std::optional<bool> ReportView::LoadAndWait(const std::function<void()>& start) 
     return WaitFor<bool>(
         [&](std::function<void(bool)> done) {
             auto connection = std::make_shared<QMetaObject::Connection>();
-            *connection = connect(page_, &QWebEnginePage::loadFinished, this,
-                                  [connection, done](bool ok) {
-                                      disconnect(*connection);
-                                      done(ok);
-                                  });
+            *connection =
+                connect(page_, &QWebEnginePage::loadFinished, this, [connection, done](bool ok) {
+                    disconnect(*connection);
+                    done(ok);
+                });
             start();
         },
         kLoadWaitMs);
@@ -182,6 +184,26 @@ bool ReportView::FindAgain(const QString& text, bool forward) {
     }
     lastActive_ = r.active;
     return true;
+}
+
+bool ReportView::PrintToPdf(const std::string& path) {
+    if (shownFile_.empty()) return false;
+    // A long report takes a while (hundreds of pages: tens of seconds); the window keeps running.
+    constexpr int kPdfWaitMs = 600'000;
+    const auto printed = WaitFor<bool>(
+        [&](std::function<void(bool)> done) {
+            auto connection = std::make_shared<QMetaObject::Connection>();
+            *connection = connect(page_, &QWebEnginePage::pdfPrintingFinished, this,
+                                  [connection, done](const QString&, bool ok) {
+                                      disconnect(*connection);
+                                      done(ok);
+                                  });
+            page_->printToPdf(QString::fromStdString(path),
+                              QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                          QMarginsF(12, 12, 12, 12), QPageLayout::Millimeter));
+        },
+        kPdfWaitMs);
+    return printed.value_or(false);
 }
 
 void ReportView::SetReportFont(const QString& family, int pointSize, bool bold, bool italic) {

@@ -42,6 +42,10 @@ class ReportView : public QWidget {
     // selection stays where it was and the answer is false (no wrap-around).
     bool FindAgain(const QString& text, bool forward);
 
+    // The shown report as a PDF file, laid out by the engine: text stays text. False when there
+    // is no report or the file could not be written.
+    bool PrintToPdf(const std::string& path);
+
     void SetReportFont(const QString& family, int pointSize, bool bold, bool italic);
 
     QWebEngineView* WebView() const { return view_; }
