@@ -3,18 +3,18 @@
 // before the click. Beside it, the LCS of the same two lines alone, timed in the same run, which
 // is the least any display of the marks must cost.
 //   detail_bench [MEGABYTES]   (default: 5)
+#include "app/QtPrompter.h"
 #include "compare/FileDiffEngine.h"
 #include "compare/StringDiffs.h"
-#include "settings/ViewOptions.h"
 #include "frame/EngineLibraries.h"
-#include "frame/ProgramFolder.h"
-#include "settings/Session.h"
 #include "frame/KWCommon.h"
-#include "app/QtPrompter.h"
+#include "frame/ProgramFolder.h"
 #include "results/FlexGridView.h"
 #include "results/LineDetailView.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QApplication>
 #include <QComboBox>

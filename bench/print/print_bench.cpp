@@ -2,15 +2,15 @@
 // reports the time and peak memory beside cups-filters' texttopdf turning the same two files
 // into PDF in the same run.
 //   print_bench [LINES] [OUTPUT-FOLDER]   (default: 100000, a temporary folder)
+#include "app/QtPrompter.h"
 #include "compare/FileDiffEngine.h"
-#include "settings/ViewOptions.h"
 #include "frame/EngineLibraries.h"
 #include "frame/ProgramFolder.h"
-#include "settings/Session.h"
-#include "app/QtPrompter.h"
 #include "results/GridPrinting.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QAbstractButton>
 #include <QApplication>

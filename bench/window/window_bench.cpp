@@ -2,14 +2,14 @@
 // time from Compare to results on screen, the longest stretch without letting events run, and
 // the peak memory, beside GNU diff's time on the same pair.
 //   window_bench [LINES...]   (default: 100000 1000000)
-#include "compare/FileDiffEngine.h"
-#include "settings/ViewOptions.h"
-#include "frame/ProgramFolder.h"
-#include "settings/Session.h"
-#include "frame/KWCommon.h"
 #include "app/QtPrompter.h"
+#include "compare/FileDiffEngine.h"
+#include "frame/KWCommon.h"
+#include "frame/ProgramFolder.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 
 #include <QApplication>
 #include <QComboBox>

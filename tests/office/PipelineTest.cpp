@@ -4,11 +4,11 @@
 // the suite is the real one behind a script that counts its starts, or a script that fails.
 #include "intake/ConvertFormats.h"
 
-#include "settings/ViewOptions.h"
 #include "frame/EngineLibraries.h"
 #include "frame/ProgramFolder.h"
-#include "settings/Session.h"
 #include "office/OfficeFixture.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 #include "support/RecordingPrompter.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "settings/MemoryOptionsWindow.h"
 #include "settings/ProgramOptions.h"
+#include "settings/MemoryOptionsWindow.h"
 
 #include "SettingsTestSupport.h"
 #include "frame/RuntimeError.h"

@@ -1,12 +1,12 @@
 // A bad value in the settings file, read by the real window: its box shows, and everything else
 // the user set survives the next quit.
 #include "compare/FileDiffEngine.h"
-#include "settings/ViewOptions.h"
 #include "frame/ProgramFolder.h"
-#include "settings/Session.h"
 #include "results/frmFileDiffs.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/IniFileName.h"
+#include "settings/Session.h"
+#include "settings/ViewOptions.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
