@@ -79,4 +79,22 @@ run_offscreen "${argv[@]}" || fail "the Exec line ended with status $?"
 [ "$(ls "$work/pages")" = "$(printf 'p1.html\np2.html\np3.html')" ] || fail "a file was added"
 grep -q "ignoring \"$work/pages/p3.html\"" "$work/err" || fail "no note about the third page"
 grep -q "p1.html" "$ini" || fail "the compared pair was not recorded"
+# The unattended report run on the bundled examples, with no display at all: the merged report
+# and status 1; the same page twice through two names: the answer page and status 0.
+examples="$(cd "$(dirname "$0")/.." && pwd)/examples"
+printf '[Compare]\nComparisonMode=Visual\n' >"$ini"
+unattended() {
+  env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM HOME="$work/home" \
+    XDG_CONFIG_HOME="$work/config" "$prefix/bin/orvane" "$@" 2>>"$work/err"
+}
+status=0; unattended "$examples/original.html" "$examples/revised.html" "$work/report.html" ||
+  status=$?
+[ "$status" = 1 ] || fail "the report run on the examples ended with status $status, not 1"
+grep -q '<del>' "$work/report.html" || fail "the report of the examples marks no removal"
+cp "$examples/original.html" "$work/copy.html"
+status=0; unattended "$examples/original.html" "$work/copy.html" "$work/same.html" || status=$?
+[ "$status" = 0 ] || fail "the report run on identical pages ended with status $status, not 0"
+grep -q '^<p>The files are identical.</p>' "$work/same.html" || fail "no identical-files page"
+grep -q 'OutputFormat=OneWindow' "$ini" || fail "the report run did not leave One Window"
+
 echo "installed program under $prefix: all checks passed"
