@@ -156,12 +156,18 @@ void frmFileDiffs::ApplyNewFont(const std::string& FontName, int FontSize, bool 
 }
 
 bool frmFileDiffs::eventFilter(QObject* watched, QEvent* event) {
+    // Only keys and drops matter here. Looking at anything else first would also touch the file
+    // boxes while the window's children are being destroyed, one of them already gone.
+    const QEvent::Type type = event->type();
+    if (type != QEvent::KeyPress && type != QEvent::DragEnter && type != QEvent::DragMove &&
+        type != QEvent::Drop)
+        return QMainWindow::eventFilter(watched, event);
     // With the focus on a file box the box gets the keys first and hands them to its editor
     // without a filter seeing them there, so both are watched for path completion.
     const bool fileBox = watched == cboOriginalFile || watched == cboRevisedFile ||
                          watched == cboOriginalFile->lineEdit() ||
                          watched == cboRevisedFile->lineEdit();
-    if (event->type() == QEvent::KeyPress && fileBox) {
+    if (type == QEvent::KeyPress && fileBox) {
         const QString text = static_cast<QKeyEvent*>(event)->text();
         modAutoCompletePath::KeyPress(text.size() == 1 ? text[0].unicode() : 0);
     }
