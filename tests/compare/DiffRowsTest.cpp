@@ -2,12 +2,14 @@
 #include "frame/ProgramFolder.h"
 #include "results/DiffPaint.h"
 #include "results/GridFill.h"
+#include "support/Process.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <random>
+#include <sstream>
 
 namespace orvane {
 namespace {
@@ -175,14 +177,9 @@ TEST(DiffItems, ColoursOfTheKinds) {
 // lines with equal lines, and list exactly the coloured blocks.
 std::vector<std::string> GnuDiff(const std::string& a, const std::string& b) {
     std::vector<std::string> lines;
-    FILE* p = ::popen(("diff '" + a + "' '" + b + "'").c_str(), "r");
-    char buf[4096];
-    while (p && std::fgets(buf, sizeof buf, p)) {
-        std::string l = buf;
-        if (!l.empty() && l.back() == '\n') l.pop_back();
-        lines.push_back(l);
-    }
-    if (p) ::pclose(p);
+    std::istringstream out(test::RunProgram({"diff", a, b}).out);
+    for (std::string line; std::getline(out, line);)
+        lines.push_back(line);
     return lines;
 }
 

@@ -20,9 +20,9 @@ struct CliRun {
 
 CliRun Detag(std::vector<std::string> args) {
     args.insert(args.begin(), kDetag);
-    CliRun run;
-    EXPECT_TRUE(RunProgram(args, run.out, run.exitCode));
-    return run;
+    const ProgramRun run = RunProgram(args);
+    EXPECT_TRUE(run.started);
+    return {run.out, run.exitCode};
 }
 
 std::string Read(const std::string& path) {

@@ -53,8 +53,9 @@ std::string ReadFile(const std::string& path) {
 }
 
 bool Capture(const std::vector<std::string>& args, std::string& out) {
-    int exitCode = 0;
-    return RunProgram(args, out, exitCode) && exitCode == 0;
+    ProgramRun run = RunProgram(args);
+    out = std::move(run.out);
+    return run.started && run.exitCode == 0;
 }
 
 bool HaveW3m() {

@@ -3,6 +3,8 @@
 // switches (nor, on small pairs, more than `diff --minimal`).
 #include "FileDiff.h"
 #include "TestSupport.h"
+#include "support/Process.h"
+#include "support/TempDir.h"
 
 #include <gtest/gtest.h>
 
@@ -10,14 +12,14 @@ namespace {
 
 using linediff::Options;
 using linediff_test::ChangedLines;
-using linediff_test::RunProcess;
-using linediff_test::TempDir;
+using orvane::test::RunProgram;
+using orvane::test::TempDir;
 
 class LineDiffGnuOracle : public testing::Test {
   protected:
     void SetUp() override {
-        if (RunProcess({"diff", "--version"}, dir).status != 0 ||
-            RunProcess({"patch", "--version"}, dir).status != 0)
+        if (RunProgram({"diff", "--version"}).exitCode != 0 ||
+            RunProgram({"patch", "--version"}).exitCode != 0)
             GTEST_SKIP() << "GNU diff and GNU patch are needed";
     }
 
@@ -31,17 +33,17 @@ class LineDiffGnuOracle : public testing::Test {
         if (o.ignoreWhiteSpace) gnu.push_back("-w");
         if (o.forceText) gnu.push_back("-a");
         gnu.insert(gnu.end(), {pa, pb});
-        auto reference = RunProcess(gnu, dir);
-        ASSERT_EQ(status, reference.status);
+        auto reference = RunProgram(gnu);
+        ASSERT_EQ(status, reference.exitCode);
         ASSERT_LE(ChangedLines(out.Text()), ChangedLines(reference.out));
         ASSERT_EQ(linediff_test::CheckHunks(a, b, out.Text(), o), "");
         if (minimal) {
             gnu.insert(gnu.begin() + 1, "--minimal");
-            ASSERT_LE(ChangedLines(out.Text()), ChangedLines(RunProcess(gnu, dir).out));
+            ASSERT_LE(ChangedLines(out.Text()), ChangedLines(RunProgram(gnu).out));
         }
         if (status != linediff::kDiffer || o.ignoreCase || o.ignoreWhiteSpace) return;
-        std::string patch = dir.Write("p", out.Text()), rebuilt = dir.Path() + "/rebuilt";
-        ASSERT_EQ(RunProcess({"patch", "-f", "-s", "-o", rebuilt, pa, patch}, dir).status, 0);
+        std::string patch = dir.Write("p", out.Text()), rebuilt = dir.Path() + "rebuilt";
+        ASSERT_EQ(RunProgram({"patch", "-f", "-s", "-o", rebuilt, pa, patch}).exitCode, 0);
         ASSERT_EQ(linediff_test::ReadFile(rebuilt), b);
     }
 

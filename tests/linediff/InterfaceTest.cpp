@@ -2,6 +2,8 @@
 // program's folder with dlopen as the program loads it, and the command line.
 #include "TestSupport.h"
 #include "linediff_api.h"
+#include "support/Process.h"
+#include "support/TempDir.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +11,8 @@
 
 namespace {
 
-using linediff_test::RunProcess;
-using linediff_test::TempDir;
+using orvane::test::RunProgram;
+using orvane::test::TempDir;
 
 class LineDiffLibrary : public testing::Test {
   protected:
@@ -83,7 +85,7 @@ TEST_F(LineDiffLibrary, BinaryNoticeOrBytesWithNulWhenForcedToText) {
 }
 
 TEST_F(LineDiffLibrary, TroubleAndNullArgumentsNeverCrash) {
-    std::string a = dir.Write("a", "x\n"), missing = dir.Path() + "/gone";
+    std::string a = dir.Write("a", "x\n"), missing = dir.Path() + "gone";
     ASSERT_EQ(compare(engine, a.c_str(), missing.c_str()), 2);
     ASSERT_EQ(count(engine), 1);
     EXPECT_NE(Line(0).find(missing), std::string::npos);
@@ -104,9 +106,9 @@ TEST_F(LineDiffLibrary, ExportsOnlyTheCInterface) {
 
 class LineDiffCommandLine : public testing::Test {
   protected:
-    linediff_test::ProcessResult Run(std::vector<std::string> args) {
+    orvane::test::ProgramRun Run(std::vector<std::string> args) {
         args.insert(args.begin(), ORVANE_BIN_DIR "linediff");
-        return RunProcess(args, dir);
+        return RunProgram(args);
     }
     TempDir dir;
 };
@@ -115,18 +117,18 @@ TEST_F(LineDiffCommandLine, ExitStatusAndOutputFollowTheEngine) {
     std::string a = dir.Write("a", "A\nb\n"), b = dir.Write("b", "a\nb\nc"),
                 c = dir.Write("c", "a b\n");
     auto differ = Run({a, b});
-    EXPECT_EQ(differ.status, 1);
+    EXPECT_EQ(differ.exitCode, 1);
     EXPECT_EQ(differ.out, "1c1\n< A\n---\n> a\n2a3\n> c\n\\ No newline at end of file\n");
     EXPECT_EQ(Run({a, b, "-i"}).out, "2a3\n> c\n\\ No newline at end of file\n");
     std::string d = dir.Write("d", "ab\n");
     for (const auto& [args, status] : std::vector<std::pair<std::vector<std::string>, int>>{
              {{"-w", c, d}, 0}, {{"-iwa", a, a}, 0}, {{"--", a, b}, 1}, {{c, "-a", d}, 1}}) {
         auto r = Run(args);
-        EXPECT_EQ(r.status, status) << r.err;
+        EXPECT_EQ(r.exitCode, status) << r.err;
     }
-    auto trouble = Run({a, dir.Path() + "/none"});
-    EXPECT_EQ(trouble.status, 2);
-    EXPECT_NE(trouble.err.find(dir.Path() + "/none"), std::string::npos);
+    auto trouble = Run({a, dir.Path() + "none"});
+    EXPECT_EQ(trouble.exitCode, 2);
+    EXPECT_NE(trouble.err.find(dir.Path() + "none"), std::string::npos);
 }
 
 TEST_F(LineDiffCommandLine, WrongUsageExplainsOnStandardError) {
@@ -134,7 +136,7 @@ TEST_F(LineDiffCommandLine, WrongUsageExplainsOnStandardError) {
     for (const auto& args :
          std::vector<std::vector<std::string>>{{}, {a}, {a, a, a}, {a, a, "-x"}}) {
         auto r = Run(args);
-        EXPECT_EQ(r.status, 2);
+        EXPECT_EQ(r.exitCode, 2);
         EXPECT_EQ(r.out, "");
         EXPECT_NE(r.err.find("usage: linediff ORIGINAL REVISED"), std::string::npos);
     }

@@ -3,6 +3,8 @@
 #include "FileDiff.h"
 #include "LineHash.h"
 #include "TestSupport.h"
+#include "support/Process.h"
+#include "support/TempDir.h"
 
 #include <gtest/gtest.h>
 
@@ -132,7 +134,7 @@ class LineDiffFiles : public testing::Test {
     linediff::Status Compare(const std::string& a, const std::string& b, Options o = {}) {
         return linediff::CompareFiles(a, b, o, out);
     }
-    linediff_test::TempDir dir;
+    orvane::test::TempDir dir;
     OutputLines out;
 };
 
@@ -150,7 +152,7 @@ TEST_F(LineDiffFiles, BinaryFilesGiveOneNoticeUnlessForcedToText) {
 }
 
 TEST_F(LineDiffFiles, TroubleNamesThePathAndTheReason) {
-    std::string ok = dir.Write("ok.txt", "a\n"), missing = dir.Path() + "/missing.txt";
+    std::string ok = dir.Write("ok.txt", "a\n"), missing = dir.Path() + "missing.txt";
     struct {
         std::string a, b, path, reason;
     } cases[] = {{ok, missing, missing, "No such file or directory"},

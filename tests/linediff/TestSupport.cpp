@@ -4,63 +4,14 @@
 #include "LineSplitter.h"
 
 #include <charconv>
-#include <cstdlib>
-#include <fcntl.h>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <spawn.h>
-#include <sys/wait.h>
-
-extern char** environ;
 
 namespace linediff_test {
-
-TempDir::TempDir() {
-    std::string pattern =
-        (std::filesystem::temp_directory_path() / "linediff_test_XXXXXX").string();
-    path_ = ::mkdtemp(pattern.data()) ? pattern : std::string();
-}
-
-TempDir::~TempDir() {
-    std::error_code ignored;
-    if (!path_.empty()) std::filesystem::remove_all(path_, ignored);
-}
-
-std::string TempDir::Write(const std::string& name, std::string_view content) const {
-    std::string path = path_ + "/" + name;
-    std::ofstream(path, std::ios::binary).write(content.data(), std::streamsize(content.size()));
-    return path;
-}
 
 std::string ReadFile(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
-}
-
-ProcessResult RunProcess(const std::vector<std::string>& argv, const TempDir& scratch) {
-    std::string outPath = scratch.Path() + "/.stdout", errPath = scratch.Path() + "/.stderr";
-    std::vector<char*> args;
-    for (const std::string& a : argv)
-        args.push_back(const_cast<char*>(a.c_str()));
-    args.push_back(nullptr);
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 1, outPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC,
-                                     0600);
-    posix_spawn_file_actions_addopen(&actions, 2, errPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC,
-                                     0600);
-    ProcessResult result;
-    pid_t pid = 0;
-    int wstatus = 0;
-    if (posix_spawnp(&pid, args[0], &actions, nullptr, args.data(), environ) == 0 &&
-        waitpid(pid, &wstatus, 0) == pid && WIFEXITED(wstatus))
-        result.status = WEXITSTATUS(wstatus);
-    posix_spawn_file_actions_destroy(&actions);
-    result.out = ReadFile(outPath);
-    result.err = ReadFile(errPath);
-    return result;
 }
 
 long ChangedLines(std::string_view output) {

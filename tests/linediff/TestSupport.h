@@ -1,6 +1,6 @@
 #pragma once
-// Helpers of the line differ's tests: scratch files, child processes, and a reader of the
-// normal format that checks what a hunk list claims.
+// Helpers of the line differ's tests: a reader of the normal format that checks what a hunk list
+// claims, and texts that repeat lines a lot.
 #include "Options.h"
 
 #include <cstdint>
@@ -11,27 +11,7 @@
 
 namespace linediff_test {
 
-class TempDir {
-  public:
-    TempDir();
-    ~TempDir();
-    TempDir(const TempDir&) = delete;
-    TempDir& operator=(const TempDir&) = delete;
-    const std::string& Path() const { return path_; }
-    // Writes `content` to a file of the folder and returns its path.
-    std::string Write(const std::string& name, std::string_view content) const;
-
-  private:
-    std::string path_;
-};
-
 std::string ReadFile(const std::string& path);
-
-struct ProcessResult {
-    int status = -1; // exit status, -1 if it did not run or end normally
-    std::string out, err;
-};
-ProcessResult RunProcess(const std::vector<std::string>& argv, const TempDir& scratch);
 
 // Lines that start with "< " or "> ".
 long ChangedLines(std::string_view normalOutput);

@@ -87,13 +87,13 @@ TEST_F(PdfPrintTest, LandscapeTurnsThePageAndHoldsFewerLines) {
 TEST_F(PdfPrintTest, OnlyDifferingLinesAreBoldInTheMonospacedFace) {
     const std::string pdf = Print(NumberedGrid(30, 3), PageOrientation::Portrait, WhichLines::All);
     // pdftohtml marks bold runs with <b>: each body line is one text element.
-    const std::string xml = Output("pdftohtml -xml -i -stdout '" + pdf + "' 2>/dev/null");
+    const std::string xml = Output({"pdftohtml", "-xml", "-i", "-stdout", pdf});
     const std::regex text("<text [^>]*>(<b>)?line (\\d+)");
     int seen = 0;
     for (std::sregex_iterator it(xml.begin(), xml.end(), text), end; it != end; ++it, ++seen)
         EXPECT_EQ((*it)[1].matched, std::stoi((*it)[2]) % 3 == 0) << "line " << (*it)[2];
     EXPECT_EQ(seen, 30);
-    const std::string fonts = Output("pdffonts '" + pdf + "' 2>/dev/null");
+    const std::string fonts = Output({"pdffonts", pdf});
     EXPECT_TRUE(fonts.find("LiberationMono") != std::string::npos ||
                 fonts.find("CourierNew") != std::string::npos)
         << fonts;

@@ -1,41 +1,33 @@
 #pragma once
 // Reading printed PDF files back with poppler-utils.
-#include <array>
-#include <cstdio>
+#include "support/Process.h"
+
 #include <regex>
 #include <string>
 #include <vector>
 
 namespace orvane::test {
 
-// Standard output of a shell command; the arguments are our own temporary paths.
-inline std::string Output(const std::string& command) {
-    std::string out;
-    if (FILE* pipe = ::popen(command.c_str(), "r")) {
-        std::array<char, 4096> buffer;
-        for (std::size_t n; (n = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0;)
-            out.append(buffer.data(), n);
-        ::pclose(pipe);
-    }
-    return out;
+inline std::string Output(std::vector<std::string> args) {
+    return RunProgram(std::move(args)).out;
 }
 
 inline bool HavePoppler() {
-    return Output(
-               "for t in pdfinfo pdftotext pdffonts pdftohtml; do command -v $t; done | wc -l") ==
-           "4\n";
+    for (const char* tool : {"pdfinfo", "pdftotext", "pdffonts", "pdftohtml"})
+        if (!RunProgram({tool, "-v"}).started) return false;
+    return true;
 }
 
 inline int PageCount(const std::string& pdf) {
     std::smatch m;
-    const std::string info = Output("pdfinfo '" + pdf + "' 2>/dev/null");
+    const std::string info = Output({"pdfinfo", pdf});
     return std::regex_search(info, m, std::regex("Pages:\\s+(\\d+)")) ? std::stoi(m[1]) : -1;
 }
 
 // Width and height of the first page in points.
 inline std::pair<double, double> PageSize(const std::string& pdf) {
     std::smatch m;
-    const std::string info = Output("pdfinfo '" + pdf + "' 2>/dev/null");
+    const std::string info = Output({"pdfinfo", pdf});
     if (!std::regex_search(info, m, std::regex("Page size:\\s+([\\d.]+) x ([\\d.]+)"))) return {};
     return {std::stod(m[1]), std::stod(m[2])};
 }
@@ -44,8 +36,7 @@ inline std::pair<double, double> PageSize(const std::string& pdf) {
 // a PDF places words, and the reader guesses the gaps between them.
 inline std::vector<std::string> PageLines(const std::string& pdf, int page) {
     const std::string p = std::to_string(page);
-    const std::string text =
-        Output("pdftotext -layout -f " + p + " -l " + p + " '" + pdf + "' - 2>/dev/null");
+    const std::string text = Output({"pdftotext", "-layout", "-f", p, "-l", p, pdf, "-"});
     std::vector<std::string> lines;
     std::size_t start = 0;
     while (start < text.size()) {
@@ -71,7 +62,7 @@ struct WordBox {
 };
 
 inline std::vector<WordBox> Words(const std::string& pdf) {
-    const std::string html = Output("pdftotext -bbox '" + pdf + "' - 2>/dev/null");
+    const std::string html = Output({"pdftotext", "-bbox", pdf, "-"});
     std::vector<WordBox> words;
     const std::regex tag("<page width=\"[\\d.]+\" height=\"([\\d.]+)\">|<word xMin=\"[\\d.]+\" "
                          "yMin=\"([\\d.]+)\" xMax=\"[\\d.]+\" yMax=\"([\\d.]+)\">([^<]*)</word>");

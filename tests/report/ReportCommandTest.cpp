@@ -3,33 +3,22 @@
 #include "intake_download/HttpTestServer.h"
 #include "report/Engine.h"
 #include "report/Report.h"
+#include "support/Process.h"
 #include "support/TempDir.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
-#include <sys/wait.h>
 
 using namespace orvane::report;
 using namespace orvane::test;
 
 namespace {
 
-struct CommandRun {
-    int status;
-    std::string err;
-};
-
-CommandRun Command(const std::string& args, const TempDir& dir) {
-    const std::string err = dir.Path() + "stderr.txt";
-    const int raw = std::system(
-        (std::string(ORVANE_BIN_DIR) + "htmlreport " + args + " 2>" + err + " >/dev/null").c_str());
-    std::ifstream in(err);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, s.str()};
+ProgramRun Htmlreport(std::vector<std::string> args) {
+    args.insert(args.begin(), std::string(ORVANE_BIN_DIR) + "htmlreport");
+    return RunProgram(std::move(args));
 }
 
 std::string Read(const std::string& path) {
@@ -47,12 +36,12 @@ TEST(ReportCommand, ExitsAsDiffDoes) {
     const auto b = dir.Write("b.html", "<p>one three</p>");
     const auto c = dir.Write("c.html", "<p>one   two</p>");
     const std::string out = dir.Path() + "out.html";
-    EXPECT_EQ(Command(a + " " + b + " " + out, dir).status, 1);
+    EXPECT_EQ(Htmlreport({a, b, out}).exitCode, 1);
     EXPECT_NE(Read(out).find("<del>"), std::string::npos);
-    EXPECT_EQ(Command(a + " " + c + " " + out, dir).status, 0);
+    EXPECT_EQ(Htmlreport({a, c, out}).exitCode, 0);
     EXPECT_NE(Read(out).find("The files are identical."), std::string::npos); // written anyway
-    EXPECT_EQ(
-        Command(a + " " + b + " " + out + " --kind source --level char --numbers", dir).status, 1);
+    EXPECT_EQ(Htmlreport({a, b, out, "--kind", "source", "--level", "char", "--numbers"}).exitCode,
+              1);
     EXPECT_NE(Read(out).find("orvane-listing"), std::string::npos);
 }
 
@@ -62,29 +51,27 @@ TEST(ReportCommand, FailuresExitTwoWithTheTextAndLeaveTheOutputAlone) {
     const auto t = dir.Write("t.txt", "no markup at all");
     const std::string out = dir.Write("out.html", "previous report");
     struct Case {
-        std::string args;
+        std::vector<std::string> args;
         std::string text;
     } cases[] = {
-        {a + " " + a + " " + out,
-         "The same file has been defined as both the Original and the Revised file."},
-        {a + " " + t + " " + out, "One of the files is not in HTML format."},
-        {dir.Path() + "missing.html " + a + " " + out,
+        {{a, a, out}, "The same file has been defined as both the Original and the Revised file."},
+        {{a, t, out}, "One of the files is not in HTML format."},
+        {{dir.Path() + "missing.html", a, out},
          "Unable to prepare the Original file for comparison."},
-        {a + " " + dir.Path() + "missing.html " + out,
+        {{a, dir.Path() + "missing.html", out},
          "Unable to prepare the Revised file for comparison."},
-        {a + " " + t + " " + out + " --kind bogus", "usage: htmlreport"},
-        {a + " " + t, "usage: htmlreport"},
+        {{a, t, out, "--kind", "bogus"}, "usage: htmlreport"},
+        {{a, t}, "usage: htmlreport"},
     };
     for (const auto& c : cases) {
-        const CommandRun r = Command(c.args, dir);
-        EXPECT_EQ(r.status, 2) << c.args;
+        const ProgramRun r = Htmlreport(c.args);
+        EXPECT_EQ(r.exitCode, 2) << c.text;
         EXPECT_NE(r.err.find(c.text), std::string::npos) << r.err;
         EXPECT_EQ(Read(out), "previous report");
     }
     // An unwritable target: a failure, and no partial file in its folder.
-    const CommandRun r =
-        Command(a + " " + t + " " + dir.Path() + "no/such/dir/out.html --kind text", dir);
-    EXPECT_EQ(r.status, 2);
+    const ProgramRun r = Htmlreport({a, t, dir.Path() + "no/such/dir/out.html", "--kind", "text"});
+    EXPECT_EQ(r.exitCode, 2);
     EXPECT_NE(r.err.find("cannot write"), std::string::npos);
 }
 

@@ -1,44 +1,89 @@
 #include "support/Process.h"
 
+#include <chrono>
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 extern char** environ;
 
 namespace orvane::test {
+namespace {
 
-ProgramRun RunProgram(std::vector<std::string> args, const std::vector<std::string>& environment) {
+std::vector<char*> Pointers(std::vector<std::string>& strings) {
+    std::vector<char*> pointers;
+    for (std::string& s : strings)
+        pointers.push_back(s.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+// Both pipes at once: a child that fills one while we wait on the other would never end.
+void ReadBoth(int outFd, int errFd, std::string& out, std::string& err) {
+    pollfd fds[2] = {{outFd, POLLIN, 0}, {errFd, POLLIN, 0}};
+    std::string* sinks[2] = {&out, &err};
+    int open = 2;
+    char buf[65536];
+    while (open > 0 && ::poll(fds, 2, -1) >= 0) {
+        for (int i = 0; i < 2; ++i) {
+            if (fds[i].fd < 0 || fds[i].revents == 0) continue;
+            const ssize_t n = ::read(fds[i].fd, buf, sizeof buf);
+            if (n > 0) {
+                sinks[i]->append(buf, static_cast<std::size_t>(n));
+            } else {
+                ::close(fds[i].fd);
+                fds[i].fd = -1;
+                --open;
+            }
+        }
+    }
+}
+
+} // namespace
+
+ProgramRun RunProgram(std::vector<std::string> args, const std::vector<std::string>& environment,
+                      int terminateAfterMs) {
     ProgramRun run;
-    int fds[2];
-    if (::pipe(fds) != 0) return run;
+    int out[2], err[2];
+    if (::pipe2(out, O_CLOEXEC) != 0) return run;
+    if (::pipe2(err, O_CLOEXEC) != 0) {
+        ::close(out[0]);
+        ::close(out[1]);
+        return run;
+    }
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, fds[1], 1);
-    posix_spawn_file_actions_addclose(&actions, fds[0]);
-    std::vector<char*> argv;
-    for (std::string& a : args)
-        argv.push_back(a.data());
-    argv.push_back(nullptr);
+    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, out[1], 1);
+    posix_spawn_file_actions_adddup2(&actions, err[1], 2);
+    std::vector<char*> argv = Pointers(args);
     std::vector<std::string> env(environment);
-    std::vector<char*> envp;
-    for (std::string& e : env)
-        envp.push_back(e.data());
     for (char** e = environ; *e; ++e)
-        envp.push_back(*e); // the first of two equal names wins
-    envp.push_back(nullptr);
+        env.emplace_back(*e); // the first of two equal names wins
+    std::vector<char*> envp = Pointers(env);
     pid_t pid;
     const int rc = posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), envp.data());
     posix_spawn_file_actions_destroy(&actions);
-    ::close(fds[1]);
+    ::close(out[1]);
+    ::close(err[1]);
     if (rc != 0) {
-        ::close(fds[0]);
+        ::close(out[0]);
+        ::close(err[0]);
         return run;
     }
-    char buf[65536];
-    for (ssize_t n; (n = ::read(fds[0], buf, sizeof buf)) > 0;)
-        run.out.append(buf, static_cast<std::size_t>(n));
-    ::close(fds[0]);
+    // The child is reaped only after this thread is done, so its pid cannot have been reused.
+    std::thread terminator;
+    if (terminateAfterMs > 0)
+        terminator = std::thread([pid, terminateAfterMs] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(terminateAfterMs));
+            ::kill(pid, SIGTERM);
+        });
+    ReadBoth(out[0], err[0], run.out, run.err);
+    if (terminator.joinable()) terminator.join();
     int status = 0;
     ::waitpid(pid, &status, 0);
     run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
@@ -48,11 +93,22 @@ ProgramRun RunProgram(std::vector<std::string> args, const std::vector<std::stri
     return run;
 }
 
-bool RunProgram(std::vector<std::string> args, std::string& out, int& exitCode) {
-    ProgramRun run = RunProgram(std::move(args), {});
-    out = std::move(run.out);
-    exitCode = run.exitCode;
-    return run.started;
+BackgroundProgram::BackgroundProgram(std::vector<std::string> args) {
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    std::vector<char*> argv = Pointers(args);
+    pid_t pid;
+    if (posix_spawnp(&pid, argv[0], &actions, nullptr, argv.data(), environ) == 0) pid_ = pid;
+    posix_spawn_file_actions_destroy(&actions);
+}
+
+BackgroundProgram::~BackgroundProgram() {
+    if (pid_ <= 0) return;
+    ::kill(pid_, SIGTERM);
+    ::waitpid(pid_, nullptr, 0);
 }
 
 } // namespace orvane::test

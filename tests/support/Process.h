@@ -1,5 +1,6 @@
 #pragma once
-// Runs a program with an argument list (never a shell) and collects what it prints.
+// Runs a program with an argument list (never a shell) and collects what it prints. Standard input
+// is /dev/null, so that a program waiting for input fails its test instead of hanging it.
 #include <string>
 #include <vector>
 
@@ -10,13 +11,26 @@ struct ProgramRun {
     int exitCode = -1; // -1 when it did not exit normally
     int signal = 0;    // the signal that ended it, if one did
     std::string out;   // standard output
+    std::string err;   // standard error
 };
 
-// `environment` entries ("NAME=value") are added to this process's own environment.
-ProgramRun RunProgram(std::vector<std::string> args, const std::vector<std::string>& environment);
+// `environment` entries ("NAME=value") are added to this process's own environment. With
+// `terminateAfterMs`, the program is sent SIGTERM that long after its start if it still runs.
+ProgramRun RunProgram(std::vector<std::string> args,
+                      const std::vector<std::string>& environment = {}, int terminateAfterMs = 0);
 
-// False when the program could not be started; otherwise `exitCode` is its exit status (-1 if
-// it did not exit normally).
-bool RunProgram(std::vector<std::string> args, std::string& out, int& exitCode);
+// A program left running in the background, its output discarded; ended by SIGTERM when the
+// object goes.
+class BackgroundProgram {
+  public:
+    explicit BackgroundProgram(std::vector<std::string> args);
+    ~BackgroundProgram();
+    BackgroundProgram(const BackgroundProgram&) = delete;
+    BackgroundProgram& operator=(const BackgroundProgram&) = delete;
+    bool Started() const { return pid_ > 0; }
+
+  private:
+    int pid_ = -1;
+};
 
 } // namespace orvane::test

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 
 namespace orvane::test {
@@ -19,9 +20,9 @@ class TempDir {
     }
     // The folder, ending in '/'.
     std::string Path() const { return path_.string() + "/"; }
-    std::string Write(const std::string& name, const std::string& bytes) const {
+    std::string Write(const std::string& name, std::string_view bytes) const {
         const std::string file = Path() + name;
-        std::ofstream(file, std::ios::binary) << bytes;
+        std::ofstream(file, std::ios::binary).write(bytes.data(), std::streamsize(bytes.size()));
         return file;
     }
 

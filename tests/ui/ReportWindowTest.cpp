@@ -3,10 +3,10 @@
 #include "results/Commands.h"
 #include "results/FlexGridView.h"
 #include "results/report/DiffReportControl.h"
+#include "support/Process.h"
 #include "tests/ui/DriverFixture.h"
 
 #include <QAction>
-#include <QProcess>
 #include <QTest>
 #include <filesystem>
 
@@ -118,13 +118,10 @@ TEST_F(ReportWindowTest, PrintToPdfWritesTheReportWithItsText) {
     EXPECT_TRUE(prompter->boxes.empty());
     ASSERT_TRUE(std::filesystem::exists(pdf));
     // Text stays text: the words come back out of the file, the removed one too.
-    QProcess pdftotext;
-    pdftotext.start("pdftotext", {QString::fromStdString(pdf), "-"});
-    ASSERT_TRUE(pdftotext.waitForFinished(30'000));
-    const QString text = pdftotext.readAllStandardOutput();
-    EXPECT_TRUE(text.contains("quick")) << text.toStdString();
-    EXPECT_TRUE(text.contains("brown"));
-    EXPECT_TRUE(text.contains("red"));
+    const std::string text = RunProgram({"pdftotext", pdf, "-"}).out;
+    EXPECT_NE(text.find("quick"), std::string::npos) << text;
+    EXPECT_NE(text.find("brown"), std::string::npos);
+    EXPECT_NE(text.find("red"), std::string::npos);
 }
 
 } // namespace
