@@ -262,7 +262,12 @@ CompareOutcome Run::ShowInGrids() {
 
 CompareOutcome CompareFiles(CompareSurroundings& window, cViewFileDiffsOptions& options,
                             FileDiffEngine& engine, bool SkipDialogue) {
-    return Run(window, options, engine).Go(SkipDialogue);
+    static bool running = false;
+    if (running) return CompareOutcome::Busy;
+    running = true;
+    const CompareOutcome outcome = Run(window, options, engine).Go(SkipDialogue);
+    running = false;
+    return outcome;
 }
 
 bool CompareWithLineDiffer(FileDiffEngine& engine, const cViewFileDiffsOptions& options,

@@ -50,10 +50,12 @@ enum class CompareOutcome {
     Nothing, // identical files, or differences that cannot be shown; the user was told
     Shown,   // the differences are on screen
     Failed,  // an unexpected error, reported
+    Busy,    // called from inside a run that is still going: nothing was touched
 };
 
 // One run of Compare. The options receive the run's inputs and temporary files; the temporary
-// files are removed on every way out.
+// files are removed on every way out. Runs do not nest: a second one would take over the first's
+// temporary files, which would then never be removed.
 CompareOutcome CompareFiles(CompareSurroundings& window, cViewFileDiffsOptions& options,
                             FileDiffEngine& engine, bool SkipDialogue);
 

@@ -158,6 +158,8 @@ std::string GetTempFileSpec(const std::string& Prefix, std::string& Extension,
         if (created.empty())
             throw RuntimeError(err::PathFileAccess, ErrorDescription(err::PathFileAccess), EEXIST);
         if (Extension.empty()) Extension = "tmp";
+        // With another extension the reserved empty ".tmp" file stays: it keeps the base name
+        // taken, so no later call is given this same name while the caller still uses it.
         return kw::ReplaceExtension(created, Extension);
     } catch (...) {
         ReportUnexpectedError("modKWCommon.GetTempFileSpec");

@@ -1,6 +1,7 @@
 #include "results/Commands.h"
 
 #include "results/MenuTable.h"
+#include "results/RunGate.h"
 #include "results/ToolbarImages.h"
 
 #include <QAction>
@@ -15,8 +16,8 @@ QString ItemName(const QString& name, int index) {
     return index < 0 ? name : QString("%1(%2)").arg(name).arg(index);
 }
 
-Commands::Commands(QMainWindow& window, QWidget& toolbarParent, std::function<bool()> busy)
-    : QObject(&window), busy_(std::move(busy)) {
+Commands::Commands(QMainWindow& window, QWidget& toolbarParent, RunGate& gate)
+    : QObject(&window), gate_(gate) {
     BuildMenus(*window.menuBar());
     BuildToolbar(window, toolbarParent);
 }
@@ -70,7 +71,6 @@ void Commands::BuildToolbar(QMainWindow& window, QWidget& parent) {
         button->setToolTip(p.toolTip);
         const QString command = p.command;
         connect(button, &QAction::triggered, this, [this, command, &window] {
-            if (busy_()) return; // a toolbar click during a run is dropped
             if (command.isEmpty())
                 window.close();
             else if (QAction* item = Item(command))
@@ -92,6 +92,22 @@ QAction* Commands::Button(int place) const {
 
 void Commands::On(const QString& name, std::function<void()> fn, int index) {
     QAction* item = Item(name, index);
+    if (!item) return;
+    connect(item, &QAction::triggered, this, [this, item, fn = std::move(fn)] {
+        if (gate_.Busy()) {
+            // Turned away: a checkable item must not show a choice that was not taken.
+            if (item->isCheckable()) item->setChecked(!item->isChecked());
+            return;
+        }
+        RunGate::Hold run(gate_);
+        fn();
+    });
+    item->setEnabled(true);
+    handled_.insert(name);
+}
+
+void Commands::OnAlways(const QString& name, std::function<void()> fn) {
+    QAction* item = Item(name);
     if (!item) return;
     connect(item, &QAction::triggered, this, std::move(fn));
     item->setEnabled(true);

@@ -15,12 +15,14 @@ class QWidget;
 
 namespace orvane {
 
+class RunGate;
+
 class Commands : public QObject {
     Q_OBJECT
   public:
-    // The toolbar goes on `toolbarParent`, the window's client area. `busy` tells whether the
-    // window shows the hourglass: toolbar clicks are dropped then.
-    Commands(QMainWindow& window, QWidget& toolbarParent, std::function<bool()> busy);
+    // The toolbar goes on `toolbarParent`, the window's client area. While `gate` is busy every
+    // command is turned away, except closing, which the window defers.
+    Commands(QMainWindow& window, QWidget& toolbarParent, RunGate& gate);
 
     // A menu item by name, with its index for a control array member; null when there is none.
     QAction* Item(const QString& name, int index = -1) const;
@@ -28,8 +30,10 @@ class Commands : public QObject {
     QAction* Button(int place) const;
     QToolBar* Toolbar() const { return toolbar_; }
 
-    // Runs `fn` when the item is chosen.
+    // Runs `fn` when the item is chosen and no run is busy; `fn` is a run of its own.
     void On(const QString& name, std::function<void()> fn, int index = -1);
+    // Runs `fn` whenever the item is chosen: for closing, which is safe at any time.
+    void OnAlways(const QString& name, std::function<void()> fn);
     // Sets a command's availability: its menu item and its toolbar button together. A command
     // with nothing behind it yet stays off, so that no button pretends.
     void Enable(const QString& name, bool on);
@@ -43,7 +47,7 @@ class Commands : public QObject {
     std::map<QString, QAction*> buttonOf_;
     std::set<QString> handled_;
     QToolBar* toolbar_ = nullptr;
-    std::function<bool()> busy_;
+    RunGate& gate_;
 };
 
 // Object name of a control array member: "name(i)".

@@ -1,4 +1,5 @@
 #include "results/frmFileDiffs.h"
+#include "results/RunGate.h"
 
 #include "compare/FileDiffEngine.h"
 #include "frame/CommandLine.h"
@@ -25,10 +26,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QProgressBar>
-#include <QTimer>
 #include <QToolBar>
 #include <filesystem>
 
@@ -38,22 +37,6 @@ namespace {
 QString Q(const std::string& s) {
     return QString::fromStdString(s);
 }
-
-// Esc, wherever the focus is, cancels a running download; at any other time it is left alone.
-class DownloadCancelKey : public QObject {
-  public:
-    explicit DownloadCancelKey(QObject* owner) : QObject(owner) {}
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::KeyPress && DownloadInProgress() &&
-            static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-            CancelDownload();
-            return true;
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 QComboBox* MakeFileBox(const QString& name, QWidget* parent) {
     auto* box = new QComboBox(parent);
@@ -83,12 +66,12 @@ frmFileDiffs::frmFileDiffs(QWidget* parent) : QMainWindow(parent) {
     client_ = new QWidget(this);
     client_->setObjectName("ClientArea");
     setCentralWidget(client_);
-    commands_ = new Commands(*this, *client_, [this] { return mousePointer_ == PointerHourglass; });
+    gate_ = new RunGate(*this);
+    commands_ = new Commands(*this, *client_, *gate_);
     BuildWidgets();
     ConnectCommands();
     ConnectGridEvents();
     SizeToDesign();
-    QApplication::instance()->installEventFilter(new DownloadCancelKey(this));
 }
 
 // The views go first: the grids they show are members, gone before the base class's children.
@@ -164,12 +147,11 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
 }
 
 void frmFileDiffs::closeEvent(QCloseEvent* e) {
-    // Closing during a download cancels it as a failed one; the window closes once the run has
-    // let go of it, never under a comparison that is still using it.
-    if (DownloadInProgress()) {
-        CancelDownload();
+    // Never under a run that still uses the window: it closes when the run is over. A download
+    // is cancelled (as a failed one) so that the wait is short.
+    if (gate_->CloseWhenIdle()) {
+        if (DownloadInProgress()) CancelDownload();
         e->ignore();
-        QTimer::singleShot(100, this, [this] { close(); });
         return;
     }
     Form_Unload();
@@ -189,6 +171,10 @@ void frmFileDiffs::Form_Unload() {
     DiffList_.clear();
     BookmarkList.clear();
     SearchTextList.clear();
+}
+
+bool frmFileDiffs::Busy() const {
+    return gate_->Busy();
 }
 
 void frmFileDiffs::mnuFileCompare_Click() {

@@ -25,6 +25,7 @@ class DiffBarView;
 class FlexGridView;
 class LineDetailView;
 class DiffReportControl;
+class RunGate;
 
 QWidget* MakeSplitterHandle(class frmFileDiffs& window, QWidget* parent);
 
@@ -136,6 +137,8 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSur
     FlexGrid& RevisedGrid() { return revisedGrid_; }
     const DiffList& Diffs() const { return DiffList_; }
     int MousePointer() const { return mousePointer_; }
+    // A comparison or another long command is running and letting events in.
+    bool Busy() const;
     QComboBox* OriginalFileBox() const { return cboOriginalFile; }
     QComboBox* RevisedFileBox() const { return cboRevisedFile; }
     bool ResultsShown() const;
@@ -223,6 +226,7 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSur
     WindowRegions regions_;
     SplitterDrag splitterDrag_;
     Commands* commands_ = nullptr;
+    RunGate* gate_ = nullptr;
 
     DiffList DiffList_;
     std::vector<long> BookmarkList;

@@ -74,7 +74,7 @@ void frmFileDiffs::ConnectCommands() {
     c.On("mnuFileCompare", [this] { mnuFileCompare_Click(); });
     c.On("mnuFileSelectOriginalFile", [this] { SelectFile(Side::Original); });
     c.On("mnuFileSelectRevisedFile", [this] { SelectFile(Side::Revised); });
-    c.On("mnuFileExit", [this] { close(); });
+    c.OnAlways("mnuFileExit", [this] { close(); });
     c.On("mnuFileShowFirstDiff", [this] { mnuFileShowFirstDiff_Click(); });
     c.On("mnuFileShowNextDiff", [this] { mnuFileShowNextDiff_Click(); });
     c.On("mnuFileShowPreviousDiff", [this] { mnuFileShowPreviousDiff_Click(); });

@@ -5,6 +5,7 @@
 #include "frame/Prompter.h"
 #include "results/DiffPaint.h"
 #include "results/GridFill.h"
+#include "results/RunGate.h"
 #include "results/frmFileDiffs.h"
 #include "settings/Session.h"
 
@@ -13,6 +14,7 @@
 namespace orvane {
 
 void frmFileDiffs::CompareFiles(bool SkipDialogue) {
+    RunGate::Hold run(*gate_);
     orvane::CompareFiles(*this, *gViewOptions, *gFileDiff, SkipDialogue);
 }
 

@@ -8,6 +8,7 @@
 #include "results/FlexGridView.h"
 #include "results/GridFill.h"
 #include "results/LineDetailView.h"
+#include "results/RunGate.h"
 #include "results/frmFileDiffs.h"
 #include "settings/Session.h"
 #include "settings/ViewOptions.h"
@@ -35,6 +36,7 @@ std::string frmFileDiffs::CurrentLine(Side side) const {
 }
 
 void frmFileDiffs::ShowDetailForCurrentRow() {
+    RunGate::Hold run(*gate_); // a long line's marks take a while, and events run meanwhile
     if (RowsHaveNoColour() || EitherLineEmpty())
         DisplaySelectedLinesInRTF();
     else

@@ -4,6 +4,7 @@
 #include "tests/app/InstalledProgram.h"
 
 #include <csignal>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace orvane::test {
@@ -38,6 +39,39 @@ TEST(Exit, AfterBoxesAtLoadTheProgramEndsCleanlyAndSavesItsOptions) {
     const std::string ini = ReadAll(dir.Path() + "orvane.ini");
     EXPECT_NE(ini.find("ComparisonLevel=Word"), std::string::npos) << ini;
     EXPECT_NE(ini.find("[Grids]"), std::string::npos) << "the options were not saved:\n" << ini;
+}
+
+// Many paragraphs: text mode extracts them into temporary files and fills long grids.
+std::string LongPage(bool revised) {
+    std::string page = "<html><body>\n";
+    for (int i = 0; i < 250000; ++i)
+        page +=
+            "<p>paragraph " + std::to_string(i) + (revised && i % 7 == 0 ? " new" : "") + "</p>\n";
+    return page + "</body></html>\n";
+}
+
+// SIGTERM while the start-up comparison runs: the window closes once the run has let go of its
+// state, the options are saved, and the run's files are gone.
+TEST(Exit, TerminatedDuringAComparisonItEndsCleanlyWhenTheRunIsOver) {
+    TempDir dir, temp;
+    const std::string program = InstallProgram(dir);
+    dir.Write("orvane.ini", "[Compare]\r\nComparisonMode=Text\r\nOutputFormat=SideBySide\r\n"
+                            "ShowDialogueBeforeComparison=False\r\n");
+    const std::string a = dir.Write("a.html", LongPage(false));
+    const std::string b = dir.Write("b.html", LongPage(true));
+    // The splash screen stays for two seconds; the run takes about three after it.
+    const ProgramRun run = RunProgram(
+        {program, a, b},
+        {"QT_QPA_PLATFORM=offscreen", "TMPDIR=" + temp.Path(), "XDG_RUNTIME_DIR=" + dir.Path()},
+        3200);
+    ASSERT_TRUE(run.started);
+    EXPECT_EQ(run.signal, 0);
+    EXPECT_EQ(run.exitCode, 0);
+    const std::string ini = ReadAll(dir.Path() + "orvane.ini");
+    EXPECT_NE(ini.find("[Grids]"), std::string::npos) << "the options were not saved:\n" << ini;
+    for (const auto& entry : std::filesystem::directory_iterator(temp.Path()))
+        EXPECT_TRUE(entry.path().extension() == ".tmp" && entry.file_size() == 0)
+            << "left behind: " << entry.path();
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -57,12 +58,14 @@ class FakeWindow : public CompareSurroundings {
     int CompareAndDisplayWithReport(const ReportRequest& r) override {
         calls.push_back("compare-report");
         request = r;
+        if (duringReport) duringReport();
         return reportCode;
     }
     void ShowReportResults() override { calls.push_back("report-results"); }
 
     int reportCode = 0;
     ReportRequest request;
+    std::function<void()> duringReport; // what happens while the report runs and events are let in
 };
 
 class Driver : public ::testing::Test {
@@ -242,6 +245,34 @@ TEST_F(Driver, TheReportComparesWhatEachModeNames) {
     EXPECT_NE(window.request.Original, a);
     EXPECT_EQ(window.request.Original.substr(window.request.Original.size() - 4), ".wtd");
     EXPECT_FALSE(std::filesystem::exists(window.request.Original)) << "removed on the way out";
+}
+
+// A Compare that arrives while the report runs must not take over the run's temporary files.
+TEST_F(Driver, ASecondRunInsideARunIsTurnedAwayAndTheFirstCleansUp) {
+    options.OutputFormat = OutputOneWindow;
+    options.ComparisonMode = ModeText;
+    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+    const std::string a = dir.Write("a.html", "<p>one</p>\n"),
+                      b = dir.Write("b.html", "<p>two</p>\n");
+    CompareOutcome nested = CompareOutcome::Shown;
+    std::size_t callsBefore = 0;
+    window.duringReport = [&] {
+        callsBefore = window.calls.size();
+        nested = CompareFiles(window, options, *engine, true);
+    };
+    const std::string firstTemp = [&] {
+        EXPECT_EQ(Compare(a, b), CompareOutcome::Shown);
+        return window.request.Original;
+    }();
+    EXPECT_EQ(nested, CompareOutcome::Busy);
+    EXPECT_EQ(window.calls[callsBefore], "stop") << "the nested call asked nothing of the window";
+    EXPECT_EQ(window.request.Original, firstTemp);
+    EXPECT_FALSE(std::filesystem::exists(firstTemp));
+    window.duringReport = nullptr;
+    EXPECT_EQ(Compare(a, b), CompareOutcome::Shown) << "and the next run after it goes ahead";
+    gViewOptions.reset();
+    gExtractionOptions.reset();
 }
 
 // Every code but 0 is told in one box titled "Compare Files", or in the unattended message.

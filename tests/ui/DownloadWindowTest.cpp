@@ -14,12 +14,6 @@
 namespace orvane::test {
 namespace {
 
-// Lets events run as the real program does, so timers and keys reach the window mid-fetch.
-class EventfulPrompter : public RecordingPrompter {
-  public:
-    void DoEvents() override { QApplication::processEvents(); }
-};
-
 class DownloadWindow : public DriverTest {
   protected:
     void SetUp() override {

@@ -10,11 +10,18 @@
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <gtest/gtest.h>
 #include <memory>
 
 namespace orvane::test {
+
+// Lets events run as the real program does, so timers and keys reach the window mid-run.
+class EventfulPrompter : public RecordingPrompter {
+  public:
+    void DoEvents() override { QApplication::processEvents(); }
+};
 
 class DriverTest : public ::testing::Test {
   protected:
