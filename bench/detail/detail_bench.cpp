@@ -138,7 +138,7 @@ int main(int argc, char* argv[]) {
 
         frmFileDiffs window;
         window.Form_Load("");
-        gViewOptions->OutputFormat = OutputSideBySide;
+        gViewOptions->OutputFormat = OutputFormat::SideBySide;
         window.resize(1200, 800);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window)) return 1;
@@ -160,7 +160,8 @@ int main(int argc, char* argv[]) {
                     lcsSeconds, lcsMegabytes);
         std::printf("%-10s %12s %10s %12s %14s %8s\n", "level", "click->paint", "vs LCS",
                     "memory MB", "beyond LCS MB", "visible");
-        for (int level : {LevelCharacter, LevelLine, LevelWord}) {
+        for (ComparisonLevel level :
+             {ComparisonLevel::Character, ComparisonLevel::Line, ComparisonLevel::Word}) {
             gViewOptions->ComparisonLevel = level;
             click(1);
             QApplication::processEvents();
@@ -181,9 +182,9 @@ int main(int argc, char* argv[]) {
             const long used = StatusMegabytes("VmHWM:") - before;
             const auto span = window.DetailBox(1)->VisibleSpan();
             std::printf("%-10s %10.3f s %+9.3f s %12ld %14ld %8lld\n",
-                        level == LevelCharacter ? "Character"
-                        : level == LevelLine    ? "Line"
-                                                : "Word",
+                        level == ComparisonLevel::Character ? "Character"
+                        : level == ComparisonLevel::Line    ? "Line"
+                                                            : "Word",
                         seconds, seconds - lcsSeconds, used, used - lcsMegabytes,
                         static_cast<long long>(span.second - span.first));
         }

@@ -99,8 +99,8 @@ int main(int argc, char** argv) {
     const std::string bin = QCoreApplication::applicationDirPath().toStdString() + "/";
     gAppPath = bin;
     gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-    gViewOptions->OutputFormat = OutputSideBySide;
-    gViewOptions->ComparisonMode = ModeCode;
+    gViewOptions->OutputFormat = OutputFormat::SideBySide;
+    gViewOptions->ComparisonMode = ComparisonMode::Code;
     gFileDiff = std::make_unique<FileDiffEngine>();
     gExtractionOptions = std::make_unique<clsExtractionOptions>();
     for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt})

@@ -97,7 +97,7 @@ int main(int argc, char* argv[]) {
     gExtractionOptions = std::make_unique<clsExtractionOptions>();
     frmFileDiffs window;
     window.Form_Load("");
-    gViewOptions->OutputFormat = OutputSideBySide;
+    gViewOptions->OutputFormat = OutputFormat::SideBySide;
     window.resize(1200, 800);
 
     std::vector<long> sizes;

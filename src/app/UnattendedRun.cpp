@@ -67,7 +67,7 @@ class ReportFileRun : public CompareSurroundings {
         o.ignoreCase = r.IgnoreCase;
         o.whiteSpaceMode = r.WhiteSpaceMode;
         o.ignoreFormatting = r.IgnoreFormatting;
-        o.level = static_cast<report::DetailLevel>(r.Level);
+        o.level = static_cast<report::DetailLevel>(ChoiceIndex(r.Level));
         o.showNumbers = r.ShowNumbers;
         report::ReportResult result = report::MakeReport(r.Original, r.Revised, o);
         Html = std::move(result.html);
@@ -117,7 +117,7 @@ int RunUnattended(const std::string& appFolder, const std::string& original,
     cViewFileDiffsOptions& o = *gViewOptions;
     o.RunFromCommandLine = true;
     // Kept afterwards on purpose: the next interactive start opens in the one-window output.
-    o.OutputFormat = OutputOneWindow;
+    o.OutputFormat = OutputFormat::OneWindow;
     o.CommandLineMessage.clear();
     ReportFileRun run(original, revised);
     CompareFiles(run, o, *gFileDiff, true);

@@ -18,12 +18,11 @@ namespace orvane {
 
 std::string gSelectFileTitle;
 std::string gSelectedPath;
-std::int32_t gSelectedSourceType = 0;
+SourceType gSelectedSourceType = SourceType::LocalFile;
 
 namespace {
 
 constexpr int kLocalFile = 0;
-constexpr int kWebAddress = 1;
 constexpr const char* kAddressStart = "http://";
 constexpr const char* kWebPagesFilter = "Web Pages (*.html *.htm)";
 
@@ -133,7 +132,7 @@ void frmSelectFile::OKButton_Click() {
     const std::string text = Trim(txtPathURL->text().toStdString());
     const bool local = optFileLocation[kLocalFile]->isChecked();
     if (!AcceptableText(text, local)) return;
-    gSelectedSourceType = local ? kLocalFile : kWebAddress;
+    gSelectedSourceType = local ? SourceType::LocalFile : SourceType::WebAddress;
     gSelectedPath = text;
     accept();
 }

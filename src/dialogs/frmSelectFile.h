@@ -1,8 +1,9 @@
 #pragma once
 // Helps the user name one input: a file on the disk or a web address. Talks with its caller
 // through the three globals below.
+#include "settings/ViewOptions.h"
+
 #include <QDialog>
-#include <cstdint>
 #include <string>
 
 class QGroupBox;
@@ -13,9 +14,9 @@ class QRadioButton;
 
 namespace orvane {
 
-extern std::string gSelectFileTitle;     // set by the caller: caption and open-file title
-extern std::string gSelectedPath;        // cleared by the caller; the trimmed choice after OK
-extern std::int32_t gSelectedSourceType; // 0 local file, 1 web address; kept, read by nobody
+extern std::string gSelectFileTitle;   // set by the caller: caption and open-file title
+extern std::string gSelectedPath;      // cleared by the caller; the trimmed choice after OK
+extern SourceType gSelectedSourceType; // kept, read by nobody
 
 class frmSelectFile : public QDialog {
     Q_OBJECT

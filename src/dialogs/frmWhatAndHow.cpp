@@ -73,9 +73,9 @@ frmWhatAndHow::frmWhatAndHow(QWidget* parent) : QDialog(parent) {
 void frmWhatAndHow::Form_Load() {
     LoadingOptions = true;
     const cViewFileDiffsOptions& o = *gViewOptions;
-    optComparisonModes[std::clamp(o.ComparisonMode, 0, 2)]->setChecked(true);
-    if (o.ComparisonMode != ModeVisual) {
-        optOutputFormats[std::clamp(o.OutputFormat, 0, 1)]->setChecked(true);
+    optComparisonModes[std::clamp(ChoiceIndex(o.ComparisonMode), 0, 2)]->setChecked(true);
+    if (o.ComparisonMode != ComparisonMode::Visual) {
+        optOutputFormats[std::clamp(ChoiceIndex(o.OutputFormat), 0, 1)]->setChecked(true);
     } else {
         optOutputFormats[0]->setChecked(true);
         optOutputFormats[1]->setEnabled(false);
@@ -86,7 +86,7 @@ void frmWhatAndHow::Form_Load() {
 
 void frmWhatAndHow::optComparisonModes_Click(int index) {
     if (LoadingOptions) return;
-    if (index != ModeVisual) {
+    if (ChoiceAt<ComparisonMode>(index) != ComparisonMode::Visual) {
         optOutputFormats[1]->setEnabled(true);
     } else {
         optOutputFormats[0]->setChecked(true);
@@ -105,9 +105,9 @@ void frmWhatAndHow::optOutputFormats_Click(int index) {
 void frmWhatAndHow::OKButton_Click() {
     cViewFileDiffsOptions& o = *gViewOptions;
     for (int i = 0; i < 3; ++i)
-        if (optComparisonModes[i]->isChecked()) o.ComparisonMode = i;
+        if (optComparisonModes[i]->isChecked()) o.ComparisonMode = ChoiceAt<ComparisonMode>(i);
     for (int i = 0; i < 2; ++i)
-        if (optOutputFormats[i]->isChecked()) o.OutputFormat = i;
+        if (optOutputFormats[i]->isChecked()) o.OutputFormat = ChoiceAt<OutputFormat>(i);
     o.ShowDialogueBeforeComparison = chkShowDialogue->isChecked();
     accept();
 }

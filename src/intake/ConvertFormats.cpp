@@ -48,11 +48,11 @@ bool ConvertFileWith(const std::string& Path, int Method, std::string& TextFile,
         if (Method != kMethodHtml) return false;
         if (TextFile.empty()) TextFile = MakeTextFileSpec();
         switch (gViewOptions->ComparisonMode) {
-        case ModeCode:
+        case ComparisonMode::Code:
             if (CopyFile(Path, TextFile)) return true;
             FailureReason = "Copy of HTML file to temp file failed. :" + TextFile;
             return false;
-        case ModeText: {
+        case ComparisonMode::Text: {
             std::string message;
             if (ConvertHTMLToText(Path, TextFile, message, options)) return true;
             FailureReason = !message.empty() ? message
@@ -60,7 +60,7 @@ bool ConvertFileWith(const std::string& Path, int Method, std::string& TextFile,
                                                "an alternate converter.";
             return false;
         }
-        case ModeVisual:
+        case ComparisonMode::Visual:
             return true;
         default:
             return false;

@@ -140,7 +140,7 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
         ShowLineDiffPrompt();
         SetCommandsForNoResults();
         PopulateFileComboBoxesFromIniFile();
-        ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);
+        ShowGridsOrVisualReport(gViewOptions->OutputFormat != OutputFormat::OneWindow);
         bool firstRun = !std::filesystem::exists(IniFilePath());
         if (!commandLine.empty()) {
             std::string original, revised, report;

@@ -156,31 +156,36 @@ void frmFileDiffs::ConnectCommands() {
 // choices stay off, and a stored choice of either starts as Source Code, side by side.
 void frmFileDiffs::ComparisonModeOption(int i) {
     CheckOnly(*commands_, "mnuOptionsComparisonModeOption", 3, i);
-    gViewOptions->ComparisonMode = i;
-    if (i == ModeVisual && gViewOptions->OutputFormat == OutputSideBySide) {
-        gViewOptions->OutputFormat = OutputOneWindow;
-        CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, OutputOneWindow);
+    gViewOptions->ComparisonMode = ChoiceAt<ComparisonMode>(i);
+    if (gViewOptions->ComparisonMode == ComparisonMode::Visual &&
+        gViewOptions->OutputFormat == OutputFormat::SideBySide) {
+        gViewOptions->OutputFormat = OutputFormat::OneWindow;
+        CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2,
+                  ChoiceIndex(OutputFormat::OneWindow));
     }
     CompareFiles(true);
 }
 
 void frmFileDiffs::OutputFormatOption(int i) {
-    if (i == OutputSideBySide && gViewOptions->ComparisonMode == ModeVisual) {
+    const OutputFormat format = ChoiceAt<OutputFormat>(i);
+    if (format == OutputFormat::SideBySide &&
+        gViewOptions->ComparisonMode == ComparisonMode::Visual) {
         prompter().MsgBox("The visual aspect differences cannot be displayed in two windows.",
                           MsgIcon::Information, "Side by Side Not Supported");
-        CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, gViewOptions->OutputFormat);
+        CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2,
+                  ChoiceIndex(gViewOptions->OutputFormat));
         return;
     }
     CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, i);
-    gViewOptions->OutputFormat = i;
+    gViewOptions->OutputFormat = format;
     CompareFiles(true);
 }
 
 // Two windows: the selected row is shown again at the new level; one window compares again.
 void frmFileDiffs::DiffDetailOption(int i) {
     CheckOnly(*commands_, "mnuOptionsDiffDetailOption", 3, i);
-    gViewOptions->ComparisonLevel = i;
-    if (gViewOptions->OutputFormat != OutputOneWindow)
+    gViewOptions->ComparisonLevel = ChoiceAt<ComparisonLevel>(i);
+    if (gViewOptions->OutputFormat != OutputFormat::OneWindow)
         Grid_Click(Side::Original);
     else
         CompareFiles(true);

@@ -28,9 +28,9 @@ void frmFileDiffs::OfferComparisonDialogue() {
     DoEvents();
     const cViewFileDiffsOptions& o = *gViewOptions;
     for (int i = 0; i < 3; ++i)
-        SetMenuChecked("mnuOptionsComparisonModeOption", i, i == o.ComparisonMode);
+        SetMenuChecked("mnuOptionsComparisonModeOption", i, i == ChoiceIndex(o.ComparisonMode));
     for (int i = 0; i < 2; ++i)
-        SetMenuChecked("mnuOptionsOutputFormatOption", i, i == o.OutputFormat);
+        SetMenuChecked("mnuOptionsOutputFormatOption", i, i == ChoiceIndex(o.OutputFormat));
     SetMenuChecked("mnuOptionsShowDialogue", -1, o.ShowDialogueBeforeComparison);
 }
 

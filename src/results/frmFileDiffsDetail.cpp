@@ -43,10 +43,10 @@ void frmFileDiffs::ShowDetailForCurrentRow() {
 
 void frmFileDiffs::DisplayLineDiffs() {
     switch (gViewOptions->ComparisonLevel) {
-    case LevelCharacter:
+    case ComparisonLevel::Character:
         DisplayLineDiffsCharLevel();
         break;
-    case LevelWord:
+    case ComparisonLevel::Word:
         DisplayLineDiffsWordLevel();
         break;
     default:

@@ -58,7 +58,8 @@ void frmFileDiffs::ViewInBrowser(Side side) {
     try {
         std::string source;
         bool isUrl = false;
-        if (ViewerSource(side, source, isUrl)) ShowHTMLFileInBrowser(source, isUrl ? 1 : 0);
+        if (ViewerSource(side, source, isUrl))
+            ShowHTMLFileInBrowser(source, isUrl ? SourceType::WebAddress : SourceType::LocalFile);
     } catch (...) {
         ReportUnexpectedError(HandlerName(side, "InDefaultBrowser"));
     }
@@ -121,8 +122,8 @@ bool frmFileDiffs::ViewFileAsText(const std::string& FileSpec) {
             std::string textFile = FileSpec;
             bool ready = true;
             if (method != 0) {
-                const int mode = gViewOptions->ComparisonMode;
-                gViewOptions->ComparisonMode = ModeText;
+                const ComparisonMode mode = gViewOptions->ComparisonMode;
+                gViewOptions->ComparisonMode = ComparisonMode::Text;
                 ready = modConvertFormats::ConvertFileIfNeeded(FileSpec, format, textFile, reason);
                 gViewOptions->ComparisonMode = mode;
             }

@@ -21,16 +21,19 @@ namespace {
 constexpr long kObjectNotSet = 91;
 
 // Multiple-choice options are stored as words, compared with case.
-struct WordChoice {
+template <class Choice> struct WordChoice {
     const char* Word;
-    int Value;
+    Choice Value;
 };
-constexpr WordChoice kComparisonModes[] = {
-    {"Visual", ModeVisual}, {"Code", ModeCode}, {"Text", ModeText}};
-constexpr WordChoice kOutputFormats[] = {{"OneWindow", OutputOneWindow},
-                                         {"SideBySide", OutputSideBySide}};
-constexpr WordChoice kComparisonLevels[] = {
-    {"Character", LevelCharacter}, {"Word", LevelWord}, {"Line", LevelLine}};
+constexpr WordChoice<ComparisonMode> kComparisonModes[] = {{"Visual", ComparisonMode::Visual},
+                                                           {"Code", ComparisonMode::Code},
+                                                           {"Text", ComparisonMode::Text}};
+constexpr WordChoice<OutputFormat> kOutputFormats[] = {{"OneWindow", OutputFormat::OneWindow},
+                                                       {"SideBySide", OutputFormat::SideBySide}};
+constexpr WordChoice<ComparisonLevel> kComparisonLevels[] = {
+    {"Character", ComparisonLevel::Character},
+    {"Word", ComparisonLevel::Word},
+    {"Line", ComparisonLevel::Line}};
 
 constexpr const char* kInternalFirst = "InternalMSWord";
 constexpr const char* kWordFirst = "MSWordInternal";
@@ -47,8 +50,9 @@ bool ReadBoolean(CIniFile& ini, const char* key, const char* def) {
 }
 
 // An unknown word leaves the field as it was.
-void ReadWord(CIniFile& ini, const char* key, const char* def, std::span<const WordChoice> words,
-              int& field) {
+template <class Choice>
+void ReadWord(CIniFile& ini, const char* key, const char* def,
+              std::span<const WordChoice<Choice>> words, Choice& field) {
     const std::string text = ReadText(ini, key, def);
     for (const auto& w : words)
         if (text == w.Word) field = w.Value;
@@ -64,7 +68,9 @@ void WriteBoolean(CIniFile& ini, const char* key, bool value) {
 }
 
 // A value outside the table writes nothing: the file keeps its old line.
-void WriteWord(CIniFile& ini, const char* key, std::span<const WordChoice> words, int value) {
+template <class Choice>
+void WriteWord(CIniFile& ini, const char* key, std::span<const WordChoice<Choice>> words,
+               Choice value) {
     for (const auto& w : words)
         if (value == w.Value) Write(ini, key, w.Word);
 }
@@ -92,10 +98,12 @@ void ReadCheckedOption(CIniFile& ini, OptionsWindow& window, const char* key, co
     window.SetMenuChecked(menu, -1, field);
 }
 
+template <class Choice>
 void ReadChoiceOption(CIniFile& ini, OptionsWindow& window, const char* key, const char* def,
-                      std::span<const WordChoice> words, int& field, const char* menuArray) {
+                      std::span<const WordChoice<Choice>> words, Choice& field,
+                      const char* menuArray) {
     ReadWord(ini, key, def, words, field);
-    window.SetMenuChecked(menuArray, field, true);
+    window.SetMenuChecked(menuArray, ChoiceIndex(field), true);
 }
 
 void ReadCompareSection(CIniFile& ini, OptionsWindow& window, cViewFileDiffsOptions& v) {
@@ -108,12 +116,13 @@ void ReadCompareSection(CIniFile& ini, OptionsWindow& window, cViewFileDiffsOpti
     v.ForceTextCompare = ReadBoolean(ini, "ForceTextCompare", "False");
     ReadCheckedOption(ini, window, "ShowLineNumbers", "True", v.ShowLineNumbers,
                       "mnuOptionsShowLineNumbers");
-    ReadChoiceOption(ini, window, "ComparisonMode", "Visual", kComparisonModes, v.ComparisonMode,
-                     "mnuOptionsComparisonModeOption");
-    ReadChoiceOption(ini, window, "OutputFormat", "SideBySide", kOutputFormats, v.OutputFormat,
-                     "mnuOptionsOutputFormatOption");
-    ReadChoiceOption(ini, window, "ComparisonLevel", "Character", kComparisonLevels,
-                     v.ComparisonLevel, "mnuOptionsDiffDetailOption");
+    ReadChoiceOption<ComparisonMode>(ini, window, "ComparisonMode", "Visual", kComparisonModes,
+                                     v.ComparisonMode, "mnuOptionsComparisonModeOption");
+    ReadChoiceOption<OutputFormat>(ini, window, "OutputFormat", "SideBySide", kOutputFormats,
+                                   v.OutputFormat, "mnuOptionsOutputFormatOption");
+    ReadChoiceOption<ComparisonLevel>(ini, window, "ComparisonLevel", "Character",
+                                      kComparisonLevels, v.ComparisonLevel,
+                                      "mnuOptionsDiffDetailOption");
     ReadCheckedOption(ini, window, "ShowDialogueBeforeComparison", "True",
                       v.ShowDialogueBeforeComparison, "mnuOptionsShowDialogue");
     ReadCheckedOption(ini, window, "ShowInternetSourceReminder", "True",
@@ -189,9 +198,9 @@ void SaveCompareSection(CIniFile& ini, const cViewFileDiffsOptions& v) {
     WriteBoolean(ini, "IgnoreWhiteSpace", v.IgnoreWhiteSpace);
     WriteBoolean(ini, "IgnoreTextFormatting", v.IgnoreTextFormatting);
     WriteBoolean(ini, "ShowLineNumbers", v.ShowLineNumbers);
-    WriteWord(ini, "ComparisonMode", kComparisonModes, v.ComparisonMode);
-    WriteWord(ini, "OutputFormat", kOutputFormats, v.OutputFormat);
-    WriteWord(ini, "ComparisonLevel", kComparisonLevels, v.ComparisonLevel);
+    WriteWord<ComparisonMode>(ini, "ComparisonMode", kComparisonModes, v.ComparisonMode);
+    WriteWord<OutputFormat>(ini, "OutputFormat", kOutputFormats, v.OutputFormat);
+    WriteWord<ComparisonLevel>(ini, "ComparisonLevel", kComparisonLevels, v.ComparisonLevel);
     WriteBoolean(ini, "ShowDialogueBeforeComparison", v.ShowDialogueBeforeComparison);
     WriteBoolean(ini, "ShowInternetSourceReminder", v.ShowInternetSourceReminder);
 }

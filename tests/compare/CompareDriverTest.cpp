@@ -72,8 +72,8 @@ class Driver : public ::testing::Test {
         for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt})
             LoadEngine(e, ORVANE_BIN_DIR);
         engine = std::make_unique<FileDiffEngine>();
-        options.OutputFormat = OutputSideBySide;
-        options.ComparisonMode = ModeCode;
+        options.OutputFormat = OutputFormat::SideBySide;
+        options.ComparisonMode = ComparisonMode::Code;
         options.ShowDialogueBeforeComparison = false;
     }
 
@@ -201,11 +201,11 @@ TEST_F(Driver, IdenticalFilesSaySoAndShowNothing) {
 }
 
 TEST_F(Driver, TheReportShowsItsDifferencesThenTheyAreRecorded) {
-    options.OutputFormat = OutputOneWindow;
-    options.ComparisonMode = ModeVisual;
+    options.OutputFormat = OutputFormat::OneWindow;
+    options.ComparisonMode = ComparisonMode::Visual;
     options.IgnoreWhiteSpace = true;
     options.IgnoreTextFormatting = true;
-    options.ComparisonLevel = LevelWord;
+    options.ComparisonLevel = ComparisonLevel::Word;
     options.ShowLineNumbers = false;
     const std::string a = dir.Write("a.html", "<p>1</p>\n"), b = dir.Write("b.html", "<p>2</p>\n");
     EXPECT_EQ(Compare(a, b), CompareOutcome::Shown);
@@ -219,20 +219,20 @@ TEST_F(Driver, TheReportShowsItsDifferencesThenTheyAreRecorded) {
     EXPECT_EQ(r.WhiteSpaceMode, 2);
     EXPECT_TRUE(r.IgnoreFormatting);
     EXPECT_FALSE(r.IgnoreCase);
-    EXPECT_EQ(r.Level, LevelWord);
+    EXPECT_EQ(r.Level, ComparisonLevel::Word);
     EXPECT_FALSE(r.ShowNumbers);
     EXPECT_FALSE(r.AllowWeb);
 }
 
 TEST_F(Driver, TheReportComparesWhatEachModeNames) {
-    options.OutputFormat = OutputOneWindow;
+    options.OutputFormat = OutputFormat::OneWindow;
     const std::string a = dir.Write("a.html", "<p>one</p>\n"),
                       b = dir.Write("b.html", "<p>two</p>\n");
-    options.ComparisonMode = ModeCode;
+    options.ComparisonMode = ComparisonMode::Code;
     Compare(a, b);
     EXPECT_EQ(window.request.CompareKind, 3);
     EXPECT_EQ(window.request.WhiteSpaceMode, 0);
-    options.ComparisonMode = ModeText; // the extracted texts, not the pages
+    options.ComparisonMode = ComparisonMode::Text; // the extracted texts, not the pages
     gExtractionOptions = std::make_unique<clsExtractionOptions>();
     gViewOptions = std::make_unique<cViewFileDiffsOptions>();
     Compare(a, b);
@@ -246,7 +246,7 @@ TEST_F(Driver, TheReportComparesWhatEachModeNames) {
 
 // Every code but 0 is told in one box titled "Compare Files", or in the unattended message.
 TEST_F(Driver, TheReportsCodesAreToldByTheirTable) {
-    options.OutputFormat = OutputOneWindow;
+    options.OutputFormat = OutputFormat::OneWindow;
     const std::string a = dir.Write("a.html", "1\n"), b = dir.Write("b.html", "2\n");
     const struct {
         int code;

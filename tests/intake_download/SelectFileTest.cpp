@@ -13,6 +13,7 @@
 #include <QRadioButton>
 #include <QUrl>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace orvane::test {
 namespace {
@@ -22,7 +23,6 @@ class SelectFileTest : public ::testing::Test {
     void SetUp() override {
         gSelectFileTitle = "Select Original HTML file";
         gSelectedPath.clear();
-        gSelectedSourceType = -1;
         form = std::make_unique<frmSelectFile>();
     }
     template <class T> T* Control(const char* name) {
@@ -76,21 +76,23 @@ struct OkCase {
     const char* title; // of the refusal; nullptr when OK closes the dialogue
     const char* message;
     const char* selected;
-    int sourceType;
+    std::optional<SourceType> sourceType; // of an accepted text
 };
 
 TEST_F(SelectFileTest, OkRefusesOrHandsBackTheTrimmedText) {
     const OkCase cases[] = {
-        {0, "", "Invalid Path", "Please enter the path to the HTML file.", "", -1},
-        {0, "   ", "Invalid Path", "Please enter the path to the HTML file.", "", -1},
+        {0, "", "Invalid Path", "Please enter the path to the HTML file.", "", {}},
+        {0, "   ", "Invalid Path", "Please enter the path to the HTML file.", "", {}},
         // Existence is the driver's question.
-        {0, "  /no/such/file.html ", nullptr, nullptr, "/no/such/file.html", 0},
-        {1, "http://", "Invalid URL", "Please enter a Web Address.", "", -1},
-        {1, " HTTP:// ", "Invalid URL", "Please enter a Web Address.", "", -1},
-        {1, "", "Invalid URL", "Please enter a Web Address.", "", -1},
-        {1, "www.example.com", "Invalid URL", "The Web Address is not in a valid format.", "", -1},
-        {1, " https://example.com/a.html ", nullptr, nullptr, "https://example.com/a.html", 1},
-        {1, "ftp://example.com/a.html", nullptr, nullptr, "ftp://example.com/a.html", 1},
+        {0, "  /no/such/file.html ", nullptr, nullptr, "/no/such/file.html", SourceType::LocalFile},
+        {1, "http://", "Invalid URL", "Please enter a Web Address.", "", {}},
+        {1, " HTTP:// ", "Invalid URL", "Please enter a Web Address.", "", {}},
+        {1, "", "Invalid URL", "Please enter a Web Address.", "", {}},
+        {1, "www.example.com", "Invalid URL", "The Web Address is not in a valid format.", "", {}},
+        {1, " https://example.com/a.html ", nullptr, nullptr, "https://example.com/a.html",
+         SourceType::WebAddress},
+        {1, "ftp://example.com/a.html", nullptr, nullptr, "ftp://example.com/a.html",
+         SourceType::WebAddress},
     };
     for (const OkCase& c : cases) {
         SCOPED_TRACE(testing::Message() << c.location << " '" << c.text << "'");
@@ -100,7 +102,9 @@ TEST_F(SelectFileTest, OkRefusesOrHandsBackTheTrimmedText) {
         Text()->setText(c.text);
         PressOK();
         EXPECT_EQ(gSelectedPath, c.selected);
-        EXPECT_EQ(gSelectedSourceType, c.sourceType);
+        if (c.sourceType) {
+            EXPECT_EQ(gSelectedSourceType, *c.sourceType);
+        }
         if (c.title) {
             ASSERT_EQ(prompter->boxes.size(), 1u);
             EXPECT_EQ(prompter->boxes[0].title, c.title);

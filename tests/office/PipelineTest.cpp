@@ -26,7 +26,7 @@ class Pipeline : public ::testing::Test {
   protected:
     void SetUp() override {
         gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-        gViewOptions->ComparisonMode = ModeText;
+        gViewOptions->ComparisonMode = ComparisonMode::Text;
         gExtractionOptions = std::make_unique<clsExtractionOptions>();
         UseEngines(ORVANE_BIN_DIR);
         const char* path = std::getenv("PATH");

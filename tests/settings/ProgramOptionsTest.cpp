@@ -96,9 +96,9 @@ class ProgramOptions : public ProgramFolderTest {
 TEST_F(ProgramOptions, EmptyFileGivesDefaultsAndSaveWritesAllKeys) {
     Read("");
     const auto& v = *gViewOptions;
-    EXPECT_EQ(v.ComparisonMode, ModeVisual);
-    EXPECT_EQ(v.OutputFormat, OutputSideBySide);
-    EXPECT_EQ(v.ComparisonLevel, LevelCharacter);
+    EXPECT_EQ(v.ComparisonMode, ComparisonMode::Visual);
+    EXPECT_EQ(v.OutputFormat, OutputFormat::SideBySide);
+    EXPECT_EQ(v.ComparisonLevel, ComparisonLevel::Character);
     EXPECT_TRUE(v.ShowLineNumbers && v.ShowDialogueBeforeComparison &&
                 v.ShowInternetSourceReminder);
     EXPECT_FALSE(v.IgnoreCase || v.IgnoreWhiteSpace || v.IgnoreTextFormatting ||
@@ -136,15 +136,15 @@ TEST_F(ProgramOptions, OnlyExactTrueIsTrue) {
 }
 
 TEST_F(ProgramOptions, UnknownWordLeavesFieldAndChecksItsItem) {
-    gViewOptions->ComparisonLevel = LevelLine;
+    gViewOptions->ComparisonLevel = ComparisonLevel::Line;
     Window.SetMenuChecked("mnuOptionsComparisonModeOption", 2, true);
     Read("[Compare]\r\nComparisonMode=visual\r\nOutputFormat=OneWindow\r\nComparisonLevel=x\r\n");
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeVisual);
+    EXPECT_EQ(gViewOptions->ComparisonMode, ComparisonMode::Visual);
     EXPECT_TRUE(Checked("mnuOptionsComparisonModeOption", 0));
     EXPECT_TRUE(Checked("mnuOptionsComparisonModeOption", 2)); // never cleared
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
+    EXPECT_EQ(gViewOptions->OutputFormat, OutputFormat::OneWindow);
     EXPECT_TRUE(Checked("mnuOptionsOutputFormatOption", 0));
-    EXPECT_EQ(gViewOptions->ComparisonLevel, LevelLine);
+    EXPECT_EQ(gViewOptions->ComparisonLevel, ComparisonLevel::Line);
     EXPECT_TRUE(Checked("mnuOptionsDiffDetailOption", 2));
 }
 
@@ -221,8 +221,8 @@ TEST_F(ProgramOptions, ForceTextCompareIsReadButNeverWritten) {
 
 TEST_F(ProgramOptions, ValueOutsideWordTableKeepsOldLine) {
     Read("[Compare]\r\nComparisonMode=Code\r\n");
-    gViewOptions->ComparisonMode = 9;
-    gViewOptions->ComparisonLevel = LevelWord;
+    gViewOptions->ComparisonMode = static_cast<ComparisonMode>(9);
+    gViewOptions->ComparisonLevel = ComparisonLevel::Word;
     Save();
     EXPECT_TRUE(HasLine("ComparisonMode=Code"));
     EXPECT_TRUE(HasLine("ComparisonLevel=Word"));
@@ -233,9 +233,9 @@ TEST_F(ProgramOptions, SavedStateReadsBackTheSame) {
     auto& v = *gViewOptions;
     v.IgnoreCase = v.IgnoreTextFormatting = true;
     v.ShowInternetSourceReminder = false;
-    v.ComparisonMode = ModeText;
-    v.OutputFormat = OutputOneWindow;
-    v.ComparisonLevel = LevelLine;
+    v.ComparisonMode = ComparisonMode::Text;
+    v.OutputFormat = OutputFormat::OneWindow;
+    v.ComparisonLevel = ComparisonLevel::Line;
     auto& e = *gExtractionOptions;
     e = clsExtractionOptions{false, true, true, 66, true, 66, 7, 3};
     gHTMLEditorFileSpec = "/usr/bin/editor with blanks";
@@ -251,9 +251,9 @@ TEST_F(ProgramOptions, SavedStateReadsBackTheSame) {
     modIniFile::ReadProgramOptionsFromIniFile(Window);
     EXPECT_TRUE(gViewOptions->IgnoreCase && gViewOptions->IgnoreTextFormatting);
     EXPECT_FALSE(gViewOptions->ShowInternetSourceReminder);
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeText);
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
-    EXPECT_EQ(gViewOptions->ComparisonLevel, LevelLine);
+    EXPECT_EQ(gViewOptions->ComparisonMode, ComparisonMode::Text);
+    EXPECT_EQ(gViewOptions->OutputFormat, OutputFormat::OneWindow);
+    EXPECT_EQ(gViewOptions->ComparisonLevel, ComparisonLevel::Line);
     const auto& r = *gExtractionOptions;
     EXPECT_EQ(std::tie(r.OriginalFormat, r.LimitLineLength, r.SingleLineParagraph,
                        r.MaxNumCharsPerLine, r.MSWordLimitLineLength, r.MSWordMaxNumCharsPerLine,

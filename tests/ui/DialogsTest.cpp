@@ -17,8 +17,8 @@ namespace {
 using DialogsTest = DriverTest;
 
 TEST_F(DialogsTest, WhatAndHowKeepsVisualAspectInOneWindow) {
-    gViewOptions->ComparisonMode = ModeVisual;
-    gViewOptions->OutputFormat = OutputSideBySide;
+    gViewOptions->ComparisonMode = ComparisonMode::Visual;
+    gViewOptions->OutputFormat = OutputFormat::SideBySide;
     frmWhatAndHow d;
     EXPECT_TRUE(d.OutputFormatOption(0)->isChecked());
     EXPECT_FALSE(d.OutputFormatOption(1)->isEnabled());
@@ -32,15 +32,15 @@ TEST_F(DialogsTest, WhatAndHowKeepsVisualAspectInOneWindow) {
     d.OutputFormatOption(1)->click();
     d.ShowDialogueBox()->setChecked(false);
     d.OKButton_Click();
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeText);
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputSideBySide);
+    EXPECT_EQ(gViewOptions->ComparisonMode, ComparisonMode::Text);
+    EXPECT_EQ(gViewOptions->OutputFormat, OutputFormat::SideBySide);
     EXPECT_FALSE(gViewOptions->ShowDialogueBeforeComparison);
     EXPECT_TRUE(d.ComparisonModeOption(0)->isEnabled());
     EXPECT_TRUE(d.OutputFormatOption(0)->isEnabled());
 }
 
 TEST_F(DialogsTest, TheSecondGuardOfTheOutputChoice) {
-    gViewOptions->ComparisonMode = ModeVisual;
+    gViewOptions->ComparisonMode = ComparisonMode::Visual;
     frmWhatAndHow d;
     d.optOutputFormats_Click(1);
     ASSERT_EQ(prompter->boxes.size(), 1u);

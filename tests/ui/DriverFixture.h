@@ -21,8 +21,8 @@ class DriverTest : public ::testing::Test {
     void SetUp() override {
         gAppPath = ORVANE_BIN_DIR;
         gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-        gViewOptions->OutputFormat = OutputSideBySide;
-        gViewOptions->ComparisonMode = ModeCode;
+        gViewOptions->OutputFormat = OutputFormat::SideBySide;
+        gViewOptions->ComparisonMode = ComparisonMode::Code;
         gFileDiff = std::make_unique<FileDiffEngine>();
         gExtractionOptions = std::make_unique<clsExtractionOptions>();
         // Engines come from the build; settings and error files go to a folder of our own.

@@ -13,7 +13,7 @@ class TextModeTest : public DriverTest {
   protected:
     void SetUp() override {
         DriverTest::SetUp();
-        gViewOptions->ComparisonMode = ModeText;
+        gViewOptions->ComparisonMode = ComparisonMode::Text;
     }
 };
 

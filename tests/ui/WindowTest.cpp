@@ -138,15 +138,15 @@ TEST_F(WindowTest, VisualAspectPushesTheOutputToOneWindow) {
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "File Does Not Exist");
     prompter->boxes.clear();
-    window->ComparisonModeOption(ModeVisual);
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
+    window->ComparisonModeOption(ChoiceIndex(ComparisonMode::Visual));
+    EXPECT_EQ(gViewOptions->OutputFormat, OutputFormat::OneWindow);
     EXPECT_TRUE(Item("mnuOptionsOutputFormatOption", 0)->isChecked());
     EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
     prompter->boxes.clear();
-    window->OutputFormatOption(OutputSideBySide);
+    window->OutputFormatOption(ChoiceIndex(OutputFormat::SideBySide));
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Side by Side Not Supported");
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
+    EXPECT_EQ(gViewOptions->OutputFormat, OutputFormat::OneWindow);
     EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
 }
 
@@ -154,7 +154,7 @@ TEST_F(WindowTest, VisualAspectPushesTheOutputToOneWindow) {
 TEST_F(WindowTest, VisualAspectAndOneWindowAreOfferedAndKept) {
     EXPECT_TRUE(Item("mnuOptionsComparisonModeOption", 0)->isEnabled());
     EXPECT_TRUE(Item("mnuOptionsOutputFormatOption", 0)->isEnabled());
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeVisual); // the first-run default
+    EXPECT_EQ(gViewOptions->ComparisonMode, ComparisonMode::Visual); // the first-run default
     EXPECT_TRUE(Item("mnuOptionsComparisonModeOption", 0)->isChecked());
 }
 

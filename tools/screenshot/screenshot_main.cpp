@@ -35,8 +35,8 @@ int main(int argc, char* argv[]) {
     frmFileDiffs window;
     window.Form_Load("");
     window.show();
-    gViewOptions->OutputFormat = visual ? OutputOneWindow : OutputSideBySide;
-    if (visual) gViewOptions->ComparisonMode = ModeVisual;
+    gViewOptions->OutputFormat = visual ? OutputFormat::OneWindow : OutputFormat::SideBySide;
+    if (visual) gViewOptions->ComparisonMode = ComparisonMode::Visual;
     if (argc >= 6) window.resize(std::atoi(argv[4]), std::atoi(argv[5]));
     QApplication::processEvents();
     // Drag the splitter to the middle, as a user with a wide window would.
