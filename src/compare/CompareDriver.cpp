@@ -31,8 +31,9 @@ bool ContainsIgnoringCase(const std::string& text, const std::string& part) {
 
 class Run {
   public:
-    Run(CompareSurroundings& window, cViewFileDiffsOptions& options, FileDiffEngine& engine)
-        : window_(window), o_(options), engine_(engine) {}
+    Run(CompareSurroundings& window, cViewFileDiffsOptions& options,
+        const clsExtractionOptions& extraction, FileDiffEngine& engine)
+        : window_(window), o_(options), extraction_(extraction), engine_(engine) {}
 
     CompareOutcome Go(bool SkipDialogue);
 
@@ -48,6 +49,7 @@ class Run {
 
     CompareSurroundings& window_;
     cViewFileDiffsOptions& o_;
+    const clsExtractionOptions& extraction_;
     FileDiffEngine& engine_;
     std::string format_[2]; // of each side, for this run
 };
@@ -197,7 +199,8 @@ bool Run::ExtractTexts() {
         const std::string& format = format_[side == Side::Original ? 0 : 1];
         std::string textFile, reason;
         if (modConvertFormats::ConvertFileIfNeeded(page ? f.DownloadFile : f.File,
-                                                   page ? "HTML" : format, textFile, reason)) {
+                                                   page ? "HTML" : format, textFile, reason,
+                                                   o_.ComparisonMode, extraction_)) {
             f.TextExtracted = true;
             f.TextFile = textFile;
             continue;
@@ -263,8 +266,9 @@ CompareOutcome Run::ShowInGrids() {
 } // namespace
 
 CompareOutcome CompareFiles(CompareSurroundings& window, cViewFileDiffsOptions& options,
-                            FileDiffEngine& engine, bool SkipDialogue) {
-    return Run(window, options, engine).Go(SkipDialogue);
+                            const clsExtractionOptions& extraction, FileDiffEngine& engine,
+                            bool SkipDialogue) {
+    return Run(window, options, extraction, engine).Go(SkipDialogue);
 }
 
 bool CompareWithLineDiffer(FileDiffEngine& engine, const cViewFileDiffsOptions& options,

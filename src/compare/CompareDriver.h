@@ -4,6 +4,7 @@
 // CompareSurroundings, and boxes go through the prompter.
 #include "compare/DiffRows.h"
 #include "compare/ReportPath.h"
+#include "settings/ExtractionOptions.h"
 #include "settings/ViewOptions.h"
 
 #include <string>
@@ -53,9 +54,10 @@ enum class CompareOutcome {
 };
 
 // One run of Compare. The options receive the run's inputs and temporary files; the temporary
-// files are removed on every way out.
+// files are removed on every way out. Text Content mode extracts with `extraction`.
 CompareOutcome CompareFiles(CompareSurroundings& window, cViewFileDiffsOptions& options,
-                            FileDiffEngine& engine, bool SkipDialogue);
+                            const clsExtractionOptions& extraction, FileDiffEngine& engine,
+                            bool SkipDialogue);
 
 // Steps 14: the line differ's verdict on the compared files. True when there are differences to
 // show; otherwise `Message` says why not (empty when the engine gave no status).

@@ -16,10 +16,6 @@
 
 namespace orvane {
 
-std::string gSelectFileTitle;
-std::string gSelectedPath;
-SourceType gSelectedSourceType = SourceType::LocalFile;
-
 namespace {
 
 constexpr int kLocalFile = 0;
@@ -54,7 +50,8 @@ bool AcceptableText(const std::string& text, bool local) {
 
 } // namespace
 
-frmSelectFile::frmSelectFile(QWidget* parent) : QDialog(parent) {
+frmSelectFile::frmSelectFile(const std::string& title, QWidget* parent)
+    : QDialog(parent), title_(title) {
     setObjectName("frmSelectFile");
     auto* where = new QGroupBox("Where is the file located?", this);
     where->setObjectName("fraFileLocation");
@@ -99,7 +96,7 @@ frmSelectFile::frmSelectFile(QWidget* parent) : QDialog(parent) {
 }
 
 void frmSelectFile::Form_Load() {
-    setWindowTitle(Q(gSelectFileTitle));
+    setWindowTitle(Q(title_));
     optFileLocation[kLocalFile]->setChecked(true);
 }
 
@@ -120,7 +117,7 @@ void frmSelectFile::optFileLocation_Click(int Index) {
 void frmSelectFile::cmdSelectFile_Click() {
     try {
         std::string chosen; // no name: the dialogue opens in the current folder
-        if (prompter().OpenFileDialog(gSelectFileTitle, kWebPagesFilter, chosen))
+        if (prompter().OpenFileDialog(title_, kWebPagesFilter, chosen))
             txtPathURL->setText(Q(chosen));
     } catch (...) {
         if (CurrentErrorInfo().Number != err::CancelSelected)
@@ -132,8 +129,8 @@ void frmSelectFile::OKButton_Click() {
     const std::string text = Trim(txtPathURL->text().toStdString());
     const bool local = optFileLocation[kLocalFile]->isChecked();
     if (!AcceptableText(text, local)) return;
-    gSelectedSourceType = local ? SourceType::LocalFile : SourceType::WebAddress;
-    gSelectedPath = text;
+    selectedSourceType_ = local ? SourceType::LocalFile : SourceType::WebAddress;
+    selectedPath_ = text;
     accept();
 }
 

@@ -1,8 +1,6 @@
 #include "dialogs/frmWhatAndHow.h"
 
 #include "frame/Prompter.h"
-#include "settings/Session.h"
-#include "settings/ViewOptions.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -36,7 +34,8 @@ void AddOptions(QGroupBox& box, const char* name, const char* const (&texts)[N],
 
 } // namespace
 
-frmWhatAndHow::frmWhatAndHow(QWidget* parent) : QDialog(parent) {
+frmWhatAndHow::frmWhatAndHow(cViewFileDiffsOptions& options, QWidget* parent)
+    : QDialog(parent), options_(options) {
     setObjectName("frmWhatAndHow");
     setWindowTitle("Comparison and Output Options");
     auto* layout = new QVBoxLayout(this);
@@ -72,7 +71,7 @@ frmWhatAndHow::frmWhatAndHow(QWidget* parent) : QDialog(parent) {
 
 void frmWhatAndHow::Form_Load() {
     LoadingOptions = true;
-    const cViewFileDiffsOptions& o = *gViewOptions;
+    const cViewFileDiffsOptions& o = options_;
     optComparisonModes[std::clamp(ChoiceIndex(o.ComparisonMode), 0, 2)]->setChecked(true);
     if (o.ComparisonMode != ComparisonMode::Visual) {
         optOutputFormats[std::clamp(ChoiceIndex(o.OutputFormat), 0, 1)]->setChecked(true);
@@ -103,7 +102,7 @@ void frmWhatAndHow::optOutputFormats_Click(int index) {
 }
 
 void frmWhatAndHow::OKButton_Click() {
-    cViewFileDiffsOptions& o = *gViewOptions;
+    cViewFileDiffsOptions& o = options_;
     for (int i = 0; i < 3; ++i)
         if (optComparisonModes[i]->isChecked()) o.ComparisonMode = ChoiceAt<ComparisonMode>(i);
     for (int i = 0; i < 2; ++i)

@@ -13,7 +13,8 @@
 namespace orvane {
 
 void frmFileDiffs::CompareFiles(bool SkipDialogue) {
-    orvane::CompareFiles(*this, *gViewOptions, *gFileDiff, SkipDialogue);
+    orvane::CompareFiles(*this, session_.ViewOptions, session_.ExtractionOptions, fileDiff_,
+                         SkipDialogue);
 }
 
 std::string frmFileDiffs::InputText(Side side) const {
@@ -23,10 +24,10 @@ std::string frmFileDiffs::InputText(Side side) const {
 
 // The dialogue, and the menu checks that follow what it wrote.
 void frmFileDiffs::OfferComparisonDialogue() {
-    frmWhatAndHow dialogue(this);
+    frmWhatAndHow dialogue(session_.ViewOptions, this);
     ShowModal(dialogue);
     DoEvents();
-    const cViewFileDiffsOptions& o = *gViewOptions;
+    const cViewFileDiffsOptions& o = session_.ViewOptions;
     for (int i = 0; i < 3; ++i)
         SetMenuChecked("mnuOptionsComparisonModeOption", i, i == ChoiceIndex(o.ComparisonMode));
     for (int i = 0; i < 2; ++i)
@@ -53,7 +54,7 @@ bool frmFileDiffs::FillFromAlignedRows(const std::string& original, const std::s
     try {
         ResetDiffState();
         const bool loaded = LoadFilesIntoGrids(original, revised, originalGrid_, revisedGrid_,
-                                               gViewOptions->ShowLineNumbers);
+                                               session_.ViewOptions.ShowLineNumbers);
         SetMousePointer(PointerDefault);
         if (!loaded) return false;
         if (!PaintAlignment(alignment, originalGrid_, revisedGrid_)) return false;

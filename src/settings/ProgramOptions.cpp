@@ -18,8 +18,6 @@
 namespace orvane::modIniFile {
 namespace {
 
-constexpr long kObjectNotSet = 91;
-
 // Multiple-choice options are stored as words, compared with case.
 template <class Choice> struct WordChoice {
     const char* Word;
@@ -159,7 +157,8 @@ void ReadFormSection(CIniFile& ini, OptionsWindow& window) {
                           ReadBoolean(ini, "PaneTooltips", "False"));
 }
 
-void ReadTextExtractionSection(CIniFile& ini, clsExtractionOptions& e, KeyGuard& guard) {
+void ReadTextExtractionSection(CIniFile& ini, Session& session, KeyGuard& guard) {
+    clsExtractionOptions& e = session.ExtractionOptions;
     ini.Section("Text Extraction");
     e.EnginePreference =
         ReadText(ini, "ExtractionEnginePrefs", kInternalFirst) == kInternalFirst ? 0 : 1;
@@ -177,19 +176,14 @@ void ReadTextExtractionSection(CIniFile& ini, clsExtractionOptions& e, KeyGuard&
     });
     const std::string saveAs = ReadText(ini, "MSWordSaveAsFormat", "2");
     guard([&] { e.MSWordSaveAsFormat = IsNumeric(saveAs) ? ToLongRounded(saveAs) : 2; });
-    gTextWithLayoutConverterPath =
+    session.TextWithLayoutConverterPath =
         ReadText(ini, "TextWithLayoutConverterPath",
                  "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
 }
 
-void ReadMiscellaneousSection(CIniFile& ini) {
+void ReadMiscellaneousSection(CIniFile& ini, Session& session) {
     ini.Section("Miscellaneous");
-    gHTMLEditorFileSpec = ReadText(ini, "HTMLEditorFileSpec", "Notepad.exe");
-}
-
-void RequireOptionObjects() {
-    if (!gViewOptions || !gExtractionOptions)
-        throw RuntimeError(kObjectNotSet, "Object variable or With block variable not set");
+    session.HTMLEditorFileSpec = ReadText(ini, "HTMLEditorFileSpec", "Notepad.exe");
 }
 
 void SaveCompareSection(CIniFile& ini, const cViewFileDiffsOptions& v) {
@@ -226,7 +220,8 @@ void SaveGridsSection(CIniFile& ini, const OptionsWindow& window) {
     Write(ini, "FontSize", FontSizeText(window.GridFontSize(kGrdOriginalFile)));
 }
 
-void SaveTextExtractionSection(CIniFile& ini, const clsExtractionOptions& e) {
+void SaveTextExtractionSection(CIniFile& ini, const Session& session) {
+    const clsExtractionOptions& e = session.ExtractionOptions;
     ini.Section("Text Extraction");
     Write(ini, "ExtractionEnginePrefs", e.EnginePreference == 0 ? kInternalFirst : kWordFirst);
     WriteBoolean(ini, "OriginalFormat", e.OriginalFormat);
@@ -236,41 +231,39 @@ void SaveTextExtractionSection(CIniFile& ini, const clsExtractionOptions& e) {
     WriteBoolean(ini, "MSWordLimitLineLength", e.MSWordLimitLineLength);
     Write(ini, "MSWordMaxNumCharsPerLine", std::to_string(e.MSWordMaxNumCharsPerLine));
     Write(ini, "MSWordSaveAsFormat", std::to_string(e.MSWordSaveAsFormat));
-    Write(ini, "TextWithLayoutConverterPath", gTextWithLayoutConverterPath);
+    Write(ini, "TextWithLayoutConverterPath", session.TextWithLayoutConverterPath);
 }
 
 } // namespace
 
-void ReadProgramOptionsFromIniFile(OptionsWindow& window) {
+void ReadProgramOptionsFromIniFile(Session& session, OptionsWindow& window) {
     try {
-        RequireOptionObjects();
         // A save killed mid-write leaves its temporary file; it is never finished, so it goes.
         RemoveStaleTemporaries(SettingsFolder() + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
         KeyGuard guard;
-        ReadCompareSection(ini, window, *gViewOptions);
+        ReadCompareSection(ini, window, session.ViewOptions);
         ReadGridsSection(ini, window, guard);
         ReadFormSection(ini, window);
-        ReadTextExtractionSection(ini, *gExtractionOptions, guard);
-        ReadMiscellaneousSection(ini);
+        ReadTextExtractionSection(ini, session, guard);
+        ReadMiscellaneousSection(ini, session);
     } catch (...) {
         ReportUnexpectedError("modIniFile.ReadProgramOptionsFromIniFile", "");
     }
 }
 
-void SaveProgramOptionsToIniFile(OptionsWindow& window) {
+void SaveProgramOptionsToIniFile(const Session& session, OptionsWindow& window) {
     try {
-        RequireOptionObjects();
         // Every key in one rewrite: a kill leaves the old settings or the new, never a mix.
         profile::WriteBatch batch(SettingsFolder() + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
-        SaveCompareSection(ini, *gViewOptions);
+        SaveCompareSection(ini, session.ViewOptions);
         SaveGridsSection(ini, window);
-        SaveTextExtractionSection(ini, *gExtractionOptions);
+        SaveTextExtractionSection(ini, session);
         ini.Section("Miscellaneous");
-        Write(ini, "HTMLEditorFileSpec", gHTMLEditorFileSpec);
+        Write(ini, "HTMLEditorFileSpec", session.HTMLEditorFileSpec);
         ini.Section("Form");
         WriteBoolean(ini, "PaneTooltips", window.MenuChecked("mnuOptionsDisplayGridTooltips", -1));
     } catch (...) {

@@ -5,7 +5,6 @@
 #include "frame/EngineLibraries.h"
 #include "frame/ProgramFolder.h"
 #include "settings/ExtractionOptions.h"
-#include "settings/Session.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
@@ -80,7 +79,7 @@ class Driver : public ::testing::Test {
     CompareOutcome Compare(const std::string& original, const std::string& revised) {
         window.inputs[0] = original;
         window.inputs[1] = revised;
-        const CompareOutcome outcome = CompareFiles(window, options, *engine, false);
+        const CompareOutcome outcome = CompareFiles(window, options, extraction, *engine, false);
         EXPECT_FALSE(window.busy) << "every way out ends idle";
         return outcome;
     }
@@ -89,6 +88,7 @@ class Driver : public ::testing::Test {
     ScopedRecordingPrompter prompter;
     std::unique_ptr<FileDiffEngine> engine;
     cViewFileDiffsOptions options;
+    clsExtractionOptions extraction;
     FakeWindow window;
 };
 
@@ -233,11 +233,7 @@ TEST_F(Driver, TheReportComparesWhatEachModeNames) {
     EXPECT_EQ(window.request.CompareKind, 3);
     EXPECT_EQ(window.request.WhiteSpaceMode, 0);
     options.ComparisonMode = ComparisonMode::Text; // the extracted texts, not the pages
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
     Compare(a, b);
-    gViewOptions.reset();
-    gExtractionOptions.reset();
     EXPECT_EQ(window.request.CompareKind, 0);
     EXPECT_NE(window.request.Original, a);
     EXPECT_EQ(window.request.Original.substr(window.request.Original.size() - 4), ".wtd");

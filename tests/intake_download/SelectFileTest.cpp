@@ -20,11 +20,7 @@ namespace {
 
 class SelectFileTest : public ::testing::Test {
   protected:
-    void SetUp() override {
-        gSelectFileTitle = "Select Original HTML file";
-        gSelectedPath.clear();
-        form = std::make_unique<frmSelectFile>();
-    }
+    void SetUp() override { form = std::make_unique<frmSelectFile>("Select Original HTML file"); }
     template <class T> T* Control(const char* name) {
         T* control = form->findChild<T*>(name);
         EXPECT_NE(control, nullptr) << name;
@@ -101,9 +97,9 @@ TEST_F(SelectFileTest, OkRefusesOrHandsBackTheTrimmedText) {
         Location(c.location)->click();
         Text()->setText(c.text);
         PressOK();
-        EXPECT_EQ(gSelectedPath, c.selected);
+        EXPECT_EQ(form->SelectedPath(), c.selected);
         if (c.sourceType) {
-            EXPECT_EQ(gSelectedSourceType, *c.sourceType);
+            EXPECT_EQ(form->SelectedSourceType(), *c.sourceType);
         }
         if (c.title) {
             ASSERT_EQ(prompter->boxes.size(), 1u);
@@ -122,7 +118,7 @@ TEST_F(SelectFileTest, CancelLeavesTheSelectionEmpty) {
     Text()->setText("/some/file.html");
     Control<QPushButton>("CancelButton")->click();
     EXPECT_EQ(form->result(), QDialog::Rejected);
-    EXPECT_EQ(gSelectedPath, "");
+    EXPECT_EQ(form->SelectedPath(), "");
 }
 
 TEST_F(SelectFileTest, BrowsedFileFillsTheBoxAndCancelKeepsIt) {

@@ -42,7 +42,7 @@ class LongLineTest : public DriverTest {
     }
     // Row 2 is the long pair; its ends differ ("old"/"new" ahead, "1"/"2" behind).
     void ComparePair(ComparisonLevel level) {
-        gViewOptions->ComparisonLevel = level;
+        session.ViewOptions.ComparisonLevel = level;
         original = "<p>old</p>" + Middle() + "<b>end1</b>";
         revised = "<p>new</p>" + Middle() + "<b>end2</b>";
         Compare(dir.Write("a.html", "same\n" + original + "\nsame\n"),

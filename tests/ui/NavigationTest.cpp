@@ -109,7 +109,7 @@ std::string RedMap(const LineDetailView& box) {
 class DetailLevels : public DriverTest {
   protected:
     void ShowPair(const std::string& a, const std::string& b, ComparisonLevel level) {
-        gViewOptions->ComparisonLevel = level;
+        session.ViewOptions.ComparisonLevel = level;
         Compare(dir.Write("a.html", "same\n" + a + "\n"), dir.Write("b.html", "same\n" + b + "\n"));
     }
     std::string Text(int box) { return window->DetailBox(box)->Text().toStdString(); }
