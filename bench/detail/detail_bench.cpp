@@ -94,15 +94,14 @@ int main(int argc, char* argv[]) {
     SetPrompter(std::make_shared<QuietPrompter>());
     const std::string bin = AddTrailingBackslash(QApplication::applicationDirPath().toStdString());
     gAppPath = bin;
-    gFileDiff = std::make_unique<FileDiffEngine>();
+    FileDiffEngine fileDiff;
     for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt})
         LoadEngine(e, bin);
     const std::string dir =
         QDir::tempPath().toStdString() + "/orvane-detail-bench-" + std::to_string(::getpid()) + "/";
     QDir().mkpath(QString::fromStdString(dir));
     gAppPath = dir;
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    Session session;
 
     const double megabytes = argc > 1 ? std::atof(argv[1]) : 5.0;
     const struct {
@@ -136,9 +135,9 @@ int main(int argc, char* argv[]) {
         b.clear();
         b.shrink_to_fit();
 
-        frmFileDiffs window;
+        frmFileDiffs window(session, fileDiff);
         window.Form_Load("");
-        gViewOptions->OutputFormat = OutputSideBySide;
+        session.ViewOptions.OutputFormat = OutputFormat::SideBySide;
         window.resize(1200, 800);
         window.show();
         if (!QTest::qWaitForWindowExposed(&window)) return 1;
@@ -160,8 +159,9 @@ int main(int argc, char* argv[]) {
                     lcsSeconds, lcsMegabytes);
         std::printf("%-10s %12s %10s %12s %14s %8s\n", "level", "click->paint", "vs LCS",
                     "memory MB", "beyond LCS MB", "visible");
-        for (int level : {LevelCharacter, LevelLine, LevelWord}) {
-            gViewOptions->ComparisonLevel = level;
+        for (ComparisonLevel level :
+             {ComparisonLevel::Character, ComparisonLevel::Line, ComparisonLevel::Word}) {
+            session.ViewOptions.ComparisonLevel = level;
             click(1);
             QApplication::processEvents();
             counters[0].paints = counters[1].paints = 0;
@@ -181,9 +181,9 @@ int main(int argc, char* argv[]) {
             const long used = StatusMegabytes("VmHWM:") - before;
             const auto span = window.DetailBox(1)->VisibleSpan();
             std::printf("%-10s %10.3f s %+9.3f s %12ld %14ld %8lld\n",
-                        level == LevelCharacter ? "Character"
-                        : level == LevelLine    ? "Line"
-                                                : "Word",
+                        level == ComparisonLevel::Character ? "Character"
+                        : level == ComparisonLevel::Line    ? "Line"
+                                                            : "Word",
                         seconds, seconds - lcsSeconds, used, used - lcsMegabytes,
                         static_cast<long long>(span.second - span.first));
         }

@@ -98,16 +98,15 @@ int main(int argc, char** argv) {
     // The engines load from the program's folder; settings go to the bench's own folder.
     const std::string bin = QCoreApplication::applicationDirPath().toStdString() + "/";
     gAppPath = bin;
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-    gViewOptions->OutputFormat = OutputSideBySide;
-    gViewOptions->ComparisonMode = ModeCode;
-    gFileDiff = std::make_unique<FileDiffEngine>();
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    Session session;
+    session.ViewOptions.OutputFormat = OutputFormat::SideBySide;
+    session.ViewOptions.ComparisonMode = ComparisonMode::Code;
+    FileDiffEngine fileDiff;
     for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt})
         LoadEngine(e, bin);
     gAppPath = folder;
     {
-        frmFileDiffs window;
+        frmFileDiffs window(session, fileDiff);
         window.Form_Load("");
         window.OriginalFileBox()->setEditText(QString::fromStdString(a));
         window.RevisedFileBox()->setEditText(QString::fromStdString(b));

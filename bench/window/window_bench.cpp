@@ -92,12 +92,11 @@ int main(int argc, char* argv[]) {
     auto timing = std::make_shared<TimingPrompter>();
     SetPrompter(timing);
     gAppPath = AddTrailingBackslash(QApplication::applicationDirPath().toStdString());
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-    gFileDiff = std::make_unique<FileDiffEngine>();
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
-    frmFileDiffs window;
+    Session session;
+    FileDiffEngine fileDiff;
+    frmFileDiffs window(session, fileDiff);
     window.Form_Load("");
-    gViewOptions->OutputFormat = OutputSideBySide;
+    session.ViewOptions.OutputFormat = OutputFormat::SideBySide;
     window.resize(1200, 800);
 
     std::vector<long> sizes;

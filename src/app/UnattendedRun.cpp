@@ -30,14 +30,17 @@ class ConsolePrompter : public Prompter {
   public:
     void MsgBox(const std::string& text, MsgIcon, const std::string& title) override {
         std::cerr << "orvane: " << title << ": " << text << '\n';
-        if (gViewOptions && gViewOptions->CommandLineMessage.empty())
-            gViewOptions->CommandLineMessage = title + ".  " + text;
+        if (Options && Options->CommandLineMessage.empty())
+            Options->CommandLineMessage = title + ".  " + text;
     }
     bool InputBox(const std::string&, const std::string&, std::string&) override { return false; }
     bool OpenFileDialog(const std::string&, const std::string&, std::string&) override {
         return false;
     }
     void DoEvents() override { QCoreApplication::processEvents(); }
+
+    // The session's options while there is a session.
+    cViewFileDiffsOptions* Options = nullptr;
 };
 
 // The driver's surroundings with nothing to show: the report is made by the engine directly.
@@ -67,7 +70,7 @@ class ReportFileRun : public CompareSurroundings {
         o.ignoreCase = r.IgnoreCase;
         o.whiteSpaceMode = r.WhiteSpaceMode;
         o.ignoreFormatting = r.IgnoreFormatting;
-        o.level = static_cast<report::DetailLevel>(r.Level);
+        o.level = static_cast<report::DetailLevel>(ChoiceIndex(r.Level));
         o.showNumbers = r.ShowNumbers;
         report::ReportResult result = report::MakeReport(r.Original, r.Revised, o);
         Html = std::move(result.html);
@@ -83,9 +86,8 @@ class ReportFileRun : public CompareSurroundings {
     std::string inputs_[2];
 };
 
-int Answer(const std::string& reportFile, const ReportFileRun& run, const std::string& original,
-           const std::string& revised) {
-    const std::string& message = gViewOptions->CommandLineMessage;
+int Answer(const std::string& message, const std::string& reportFile, const ReportFileRun& run,
+           const std::string& original, const std::string& revised) {
     if (message.empty()) {
         if (WriteFileAtomically(reportFile, run.Html)) return 1;
         std::cerr << "orvane: cannot write the report to " << reportFile << '\n';
@@ -100,7 +102,8 @@ int Answer(const std::string& reportFile, const ReportFileRun& run, const std::s
 
 int RunUnattended(const std::string& appFolder, const std::string& original,
                   const std::string& revised, const std::string& reportFile) {
-    SetPrompter(std::make_shared<ConsolePrompter>());
+    const auto console = std::make_shared<ConsolePrompter>();
+    SetPrompter(console);
     Program program;
     std::string moduleName;
     try {
@@ -112,17 +115,20 @@ int RunUnattended(const std::string& appFolder, const std::string& original,
         std::cerr << "orvane: a required library cannot be loaded: " << moduleName << '\n';
         return 2;
     }
+    Session& session = program.CurrentSession();
+    console->Options = &session.ViewOptions;
     MemoryOptionsWindow options;
-    modIniFile::ReadProgramOptionsFromIniFile(options);
-    cViewFileDiffsOptions& o = *gViewOptions;
+    modIniFile::ReadProgramOptionsFromIniFile(session, options);
+    cViewFileDiffsOptions& o = session.ViewOptions;
     o.RunFromCommandLine = true;
     // Kept afterwards on purpose: the next interactive start opens in the one-window output.
-    o.OutputFormat = OutputOneWindow;
+    o.OutputFormat = OutputFormat::OneWindow;
     o.CommandLineMessage.clear();
     ReportFileRun run(original, revised);
-    CompareFiles(run, o, *gFileDiff, true);
-    const int status = Answer(reportFile, run, original, revised);
-    modIniFile::SaveProgramOptionsToIniFile(options);
+    CompareFiles(run, o, session.ExtractionOptions, program.LineDiffer(), true);
+    const int status = Answer(o.CommandLineMessage, reportFile, run, original, revised);
+    modIniFile::SaveProgramOptionsToIniFile(session, options);
+    console->Options = nullptr;
     program.EndProgram();
     return status;
 }

@@ -8,9 +8,7 @@
 #include "frame/ProgramFolder.h"
 #include "frame/Prompter.h"
 #include "results/frmFileDiffs.h"
-#include "settings/ExtractionOptions.h"
 #include "settings/Session.h"
-#include "settings/ViewOptions.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -32,14 +30,16 @@ QPointer<frmFileDiffs>& MainWindow() {
     return window;
 }
 
-void ShowMainWindow(const std::string& commandLine) {
-    auto* window = new frmFileDiffs;
+} // namespace
+
+void Program::ShowMainWindow(const std::string& commandLine) {
+    auto* window = new frmFileDiffs(*session_, *fileDiff_);
     window->setAttribute(Qt::WA_DeleteOnClose);
     MainWindow() = window;
     window->Form_Load(commandLine);
 }
 
-} // namespace
+Program::Program() = default;
 
 Program::~Program() {
     EndProgram();
@@ -49,7 +49,7 @@ bool Program::Main(const std::string& appFolder, const std::string& commandLine)
     std::string moduleName;
     try {
         if (!OpenSession(appFolder, moduleName)) throw RuntimeError(err::CannotCreateObject);
-        auto* splash = new frmSplash([commandLine] { ShowMainWindow(commandLine); });
+        auto* splash = new frmSplash([this, commandLine] { ShowMainWindow(commandLine); });
         splash->Form_Load();
         return true;
     } catch (...) {
@@ -65,11 +65,10 @@ bool Program::Main(const std::string& appFolder, const std::string& commandLine)
 bool Program::OpenSession(const std::string& appFolder, std::string& moduleName) {
     gAppPath = AddTrailingBackslash(appFolder);
     if (!ProbeRequiredEngines(gAppPath, moduleName)) return false;
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-    RouteErrorsToReportRun();
+    session_ = std::make_unique<Session>();
+    RouteErrorsToReportRun(session_->ViewOptions);
     moduleName = EngineFileName(Engine::LineDiff);
-    gFileDiff = std::make_unique<FileDiffEngine>();
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    fileDiff_ = std::make_unique<FileDiffEngine>();
     gStartDir = AddTrailingBackslash(std::filesystem::current_path().string());
     return true;
 }
@@ -84,9 +83,8 @@ void Program::EndProgram() {
         delete window.data();
     }
     SetErrorTextSink({});
-    gFileDiff.reset(); // lives in the line differ library
-    gExtractionOptions.reset();
-    gViewOptions.reset();
+    fileDiff_.reset(); // lives in the line differ library
+    session_.reset();
     FreeEngines();
 }
 

@@ -1,14 +1,18 @@
 #pragma once
+#include <memory>
 #include <string>
 
 namespace orvane {
+
+class FileDiffEngine;
+struct Session;
 
 // The program's run from start to end. It owns the session: the options and the line differ are
 // created by Main and released by EndProgram, before the engine libraries they live in are
 // unloaded; its destructor ends the program on every way out that did not.
 class Program {
   public:
-    Program() = default;
+    Program();
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -25,7 +29,15 @@ class Program {
     // options), then the session is released and the engine libraries unloaded. Runs once.
     void EndProgram();
 
+    // Valid from a successful OpenSession until EndProgram.
+    Session& CurrentSession() { return *session_; }
+    FileDiffEngine& LineDiffer() { return *fileDiff_; }
+
   private:
+    void ShowMainWindow(const std::string& commandLine);
+
+    std::unique_ptr<Session> session_;
+    std::unique_ptr<FileDiffEngine> fileDiff_;
     bool ended_ = false;
 };
 

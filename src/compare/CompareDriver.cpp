@@ -31,14 +31,15 @@ bool ContainsIgnoringCase(const std::string& text, const std::string& part) {
 
 class Run {
   public:
-    Run(CompareSurroundings& window, cViewFileDiffsOptions& options, FileDiffEngine& engine)
-        : window_(window), o_(options), engine_(engine) {}
+    Run(CompareSurroundings& window, cViewFileDiffsOptions& options,
+        const clsExtractionOptions& extraction, FileDiffEngine& engine)
+        : window_(window), o_(options), extraction_(extraction), engine_(engine) {}
 
     CompareOutcome Go(bool SkipDialogue);
 
   private:
     void Refuse(const std::string& title, const std::string& text);
-    bool CheckInputs(std::string& original, std::string& revised, int types[2]);
+    bool CheckInputs(std::string& original, std::string& revised, SourceType types[2]);
     bool FetchWebPages();
     bool DetectFormats();
     bool ExtractTexts();
@@ -48,6 +49,7 @@ class Run {
 
     CompareSurroundings& window_;
     cViewFileDiffsOptions& o_;
+    const clsExtractionOptions& extraction_;
     FileDiffEngine& engine_;
     std::string format_[2]; // of each side, for this run
 };
@@ -61,7 +63,7 @@ void Run::Refuse(const std::string& title, const std::string& text) {
 }
 
 // Steps 1 to 6: both inputs present, addresses well formed, local files existing.
-bool Run::CheckInputs(std::string& original, std::string& revised, int types[2]) {
+bool Run::CheckInputs(std::string& original, std::string& revised, SourceType types[2]) {
     original = Trim(window_.InputText(Side::Original));
     if (original.empty()) { // always a box, also in an unattended run
         prompter().MsgBox("Please specify an Original HTML file.", MsgIcon::Exclamation,
@@ -77,7 +79,8 @@ bool Run::CheckInputs(std::string& original, std::string& revised, int types[2])
     const std::string* inputs[2] = {&original, &revised};
     for (int i = 0; i < 2; ++i) {
         const LocationKind kind = ClassifyLocation(*inputs[i]);
-        types[i] = kind == LocationKind::WebAddress ? WebAddress : LocalFile;
+        types[i] =
+            kind == LocationKind::WebAddress ? SourceType::WebAddress : SourceType::LocalFile;
         if (kind == LocationKind::BareHostName) {
             Refuse("Invalid URL Format", "Web Addresses must begin with HTTP://");
             return false;
@@ -85,7 +88,7 @@ bool Run::CheckInputs(std::string& original, std::string& revised, int types[2])
     }
     for (Side side : {Side::Original, Side::Revised}) {
         const int i = side == Side::Original ? 0 : 1;
-        if (types[i] == LocalFile && !FileExists(*inputs[i])) {
+        if (types[i] == SourceType::LocalFile && !FileExists(*inputs[i])) {
             Refuse("File Does Not Exist", MissingFileText(side));
             return false;
         }
@@ -98,12 +101,12 @@ CompareOutcome Run::Go(bool SkipDialogue) {
     CompareOutcome outcome = CompareOutcome::Refused;
     try {
         std::string original, revised;
-        int types[2] = {LocalFile, LocalFile};
+        SourceType types[2] = {SourceType::LocalFile, SourceType::LocalFile};
         if (CheckInputs(original, revised, types)) {
             // Step 7: the dialogue may change the mode and the output format.
             if (!SkipDialogue && o_.ShowDialogueBeforeComparison) window_.OfferComparisonDialogue();
             window_.SetBusyPointer(true);
-            window_.ShowGridsOrVisualReport(o_.OutputFormat != 0);
+            window_.ShowGridsOrVisualReport(o_.OutputFormat != OutputFormat::OneWindow);
             window_.StartProgress();
             displayFrozen = true;
             window_.PrepareForNewComparison();
@@ -118,7 +121,8 @@ CompareOutcome Run::Go(bool SkipDialogue) {
             o_.OriginalDownloadFile.clear();
             o_.RevisedDownloadFile.clear();
             if (FetchWebPages() && DetectFormats() && ExtractTexts())
-                outcome = o_.OutputFormat != OutputOneWindow ? ShowInGrids() : ShowInReport();
+                outcome =
+                    o_.OutputFormat != OutputFormat::OneWindow ? ShowInGrids() : ShowInReport();
         }
     } catch (...) {
         outcome = CompareOutcome::Failed;
@@ -135,15 +139,15 @@ CompareOutcome Run::Go(bool SkipDialogue) {
 void Run::DeleteTemporaryFiles() {
     DeleteIf(o_.OriginalTextExtracted, o_.OriginalTextFile);
     DeleteIf(o_.RevisedTextExtracted, o_.RevisedTextFile);
-    DeleteIf(o_.OriginalSourceType == WebAddress, o_.OriginalDownloadFile);
-    DeleteIf(o_.RevisedSourceType == WebAddress, o_.RevisedDownloadFile);
+    DeleteIf(o_.OriginalSourceType == SourceType::WebAddress, o_.OriginalDownloadFile);
+    DeleteIf(o_.RevisedSourceType == SourceType::WebAddress, o_.RevisedDownloadFile);
 }
 
 // Steps 10 and 11: each web address is fetched into a temporary page of its own.
 bool Run::FetchWebPages() {
     for (Side side : {Side::Original, Side::Revised}) {
         SideFields f = FieldsOf(o_, side);
-        if (f.SourceType != WebAddress) continue;
+        if (f.SourceType != SourceType::WebAddress) continue;
         const std::string target = MakeDownloadFileSpec();
         if (!target.empty() && modOrvane::DownloadWebPage(f.File, target)) {
             f.DownloadFile = target;
@@ -167,7 +171,7 @@ bool Run::DetectFormats() {
     for (Side side : {Side::Original, Side::Revised}) {
         SideFields f = FieldsOf(o_, side);
         std::string& format = format_[side == Side::Original ? 0 : 1];
-        if (f.SourceType == WebAddress) {
+        if (f.SourceType == SourceType::WebAddress) {
             format = "HTML";
             continue;
         }
@@ -188,14 +192,15 @@ bool Run::DetectFormats() {
 // Step 13, Text Content mode only: the text of each input is compared in its place. This box
 // has no unattended form.
 bool Run::ExtractTexts() {
-    if (o_.ComparisonMode != ModeText) return true;
+    if (o_.ComparisonMode != ComparisonMode::Text) return true;
     for (Side side : {Side::Original, Side::Revised}) {
         SideFields f = FieldsOf(o_, side);
-        const bool page = f.SourceType == WebAddress;
+        const bool page = f.SourceType == SourceType::WebAddress;
         const std::string& format = format_[side == Side::Original ? 0 : 1];
         std::string textFile, reason;
         if (modConvertFormats::ConvertFileIfNeeded(page ? f.DownloadFile : f.File,
-                                                   page ? "HTML" : format, textFile, reason)) {
+                                                   page ? "HTML" : format, textFile, reason,
+                                                   o_.ComparisonMode, extraction_)) {
             f.TextExtracted = true;
             f.TextFile = textFile;
             continue;
@@ -261,11 +266,12 @@ CompareOutcome Run::ShowInGrids() {
 } // namespace
 
 CompareOutcome CompareFiles(CompareSurroundings& window, cViewFileDiffsOptions& options,
-                            FileDiffEngine& engine, bool SkipDialogue) {
+                            const clsExtractionOptions& extraction, FileDiffEngine& engine,
+                            bool SkipDialogue) {
     static bool running = false;
     if (running) return CompareOutcome::Busy;
     running = true;
-    const CompareOutcome outcome = Run(window, options, engine).Go(SkipDialogue);
+    const CompareOutcome outcome = Run(window, options, extraction, engine).Go(SkipDialogue);
     running = false;
     return outcome;
 }

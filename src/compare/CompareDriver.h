@@ -4,6 +4,7 @@
 // CompareSurroundings, and boxes go through the prompter.
 #include "compare/DiffRows.h"
 #include "compare/ReportPath.h"
+#include "settings/ExtractionOptions.h"
 #include "settings/ViewOptions.h"
 
 #include <string>
@@ -54,10 +55,12 @@ enum class CompareOutcome {
 };
 
 // One run of Compare. The options receive the run's inputs and temporary files; the temporary
-// files are removed on every way out. Runs do not nest: a second one would take over the first's
-// temporary files, which would then never be removed.
+// files are removed on every way out. Text Content mode extracts with `extraction`. Runs do not
+// nest: a second one would take over the first's temporary files, which would then never be
+// removed.
 CompareOutcome CompareFiles(CompareSurroundings& window, cViewFileDiffsOptions& options,
-                            FileDiffEngine& engine, bool SkipDialogue);
+                            const clsExtractionOptions& extraction, FileDiffEngine& engine,
+                            bool SkipDialogue);
 
 // Steps 14: the line differ's verdict on the compared files. True when there are differences to
 // show; otherwise `Message` says why not (empty when the engine gave no status).

@@ -6,8 +6,6 @@
 
 namespace orvane {
 
-std::unique_ptr<FileDiffEngine> gFileDiff;
-
 struct FileDiffEngine::Api {
     decltype(&LD_Create) create;
     decltype(&LD_Destroy) destroy;

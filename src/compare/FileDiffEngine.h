@@ -10,6 +10,8 @@ struct LdEngine;
 
 namespace orvane {
 
+// The session's one line differ lives in the engine library: the application object creates it
+// after the library is loaded and releases it before the library is unloaded.
 class FileDiffEngine : public DiffOutput {
   public:
     // Binds to the line differ library (loaded from gAppPath). Throws RuntimeError 429 when the
@@ -33,9 +35,5 @@ class FileDiffEngine : public DiffOutput {
     std::unique_ptr<Api> api_;
     LdEngine* engine_;
 };
-
-// The session's line differ. It lives in the engine library, so the application object creates it
-// after the library is loaded and releases it before the library is unloaded.
-extern std::unique_ptr<FileDiffEngine> gFileDiff;
 
 } // namespace orvane

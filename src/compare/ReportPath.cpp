@@ -8,13 +8,16 @@ ReportRequest ReportRequestFor(const cViewFileDiffsOptions& o) {
     // downloaded copy, so the report can resolve the page's own relative addresses.
     r.Original = o.OriginalTextExtracted ? o.OriginalTextFile : o.OriginalFile;
     r.Revised = o.RevisedTextExtracted ? o.RevisedTextFile : o.RevisedFile;
-    r.CompareKind = o.ComparisonMode == ModeVisual ? 2 : o.ComparisonMode == ModeCode ? 3 : 0;
+    r.CompareKind = o.ComparisonMode == ComparisonMode::Visual ? 2
+                    : o.ComparisonMode == ComparisonMode::Code ? 3
+                                                               : 0;
     r.IgnoreFormatting = o.IgnoreTextFormatting;
     r.IgnoreCase = o.IgnoreCase;
     r.WhiteSpaceMode = o.IgnoreWhiteSpace ? 2 : 0;
     r.Level = o.ComparisonLevel;
     r.ShowNumbers = o.ShowLineNumbers;
-    r.AllowWeb = o.OriginalSourceType == WebAddress || o.RevisedSourceType == WebAddress;
+    r.AllowWeb = o.OriginalSourceType == SourceType::WebAddress ||
+                 o.RevisedSourceType == SourceType::WebAddress;
     return r;
 }
 

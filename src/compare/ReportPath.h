@@ -15,7 +15,7 @@ struct ReportRequest {
     bool IgnoreFormatting = false;
     bool IgnoreCase = false;
     int WhiteSpaceMode = 0; // 2 when white space is ignored
-    int Level = 0;          // as ComparisonLevel
+    ComparisonLevel Level = ComparisonLevel::Character;
     bool ShowNumbers = true;
     // An input came from the web, so the report's pictures and styles may too.
     bool AllowWeb = false;

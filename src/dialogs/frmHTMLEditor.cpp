@@ -3,7 +3,6 @@
 #include "frame/ErrorReporter.h"
 #include "frame/KWCommon.h"
 #include "frame/Prompter.h"
-#include "settings/Session.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -18,7 +17,8 @@ constexpr const char* kNotepad = "Notepad.exe"; // stands for the desktop's text
 
 } // namespace
 
-frmHTMLEditor::frmHTMLEditor(QWidget* parent) : QDialog(parent) {
+frmHTMLEditor::frmHTMLEditor(std::string& fileSpec, QWidget* parent)
+    : QDialog(parent), fileSpec_(fileSpec) {
     setObjectName("frmHTMLEditor");
     setWindowTitle("HTML Editor");
     auto* layout = new QGridLayout(this);
@@ -27,7 +27,7 @@ frmHTMLEditor::frmHTMLEditor(QWidget* parent) : QDialog(parent) {
                                     this);
     instructions->setObjectName("lblInstructions");
     instructions->setWordWrap(true);
-    txtHTMLEditorFileSpec = new QLineEdit(QString::fromStdString(gHTMLEditorFileSpec), this);
+    txtHTMLEditorFileSpec = new QLineEdit(QString::fromStdString(fileSpec_), this);
     txtHTMLEditorFileSpec->setObjectName("txtHTMLEditorFileSpec");
     txtHTMLEditorFileSpec->setToolTip("HTML Editor Specification");
     txtHTMLEditorFileSpec->setMinimumWidth(300);
@@ -60,14 +60,14 @@ void frmHTMLEditor::OKButton_Click() {
     try {
         const std::string text = Trim(txtHTMLEditorFileSpec->text().toStdString());
         if (text.empty() || text == kNotepad)
-            gHTMLEditorFileSpec = kNotepad;
+            fileSpec_ = kNotepad;
         else if (FileExists(text))
-            gHTMLEditorFileSpec = text;
+            fileSpec_ = text;
         else
             prompter().MsgBox("The file does not exist. Notepad will be used.",
                               MsgIcon::Exclamation, "HTML Editor");
     } catch (...) {
-        gHTMLEditorFileSpec = kNotepad;
+        fileSpec_ = kNotepad;
     }
     accept();
 }

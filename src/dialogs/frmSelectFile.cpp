@@ -16,14 +16,9 @@
 
 namespace orvane {
 
-std::string gSelectFileTitle;
-std::string gSelectedPath;
-std::int32_t gSelectedSourceType = 0;
-
 namespace {
 
 constexpr int kLocalFile = 0;
-constexpr int kWebAddress = 1;
 constexpr const char* kAddressStart = "http://";
 constexpr const char* kWebPagesFilter = "Web Pages (*.html *.htm)";
 
@@ -55,7 +50,8 @@ bool AcceptableText(const std::string& text, bool local) {
 
 } // namespace
 
-frmSelectFile::frmSelectFile(QWidget* parent) : QDialog(parent) {
+frmSelectFile::frmSelectFile(const std::string& title, QWidget* parent)
+    : QDialog(parent), title_(title) {
     setObjectName("frmSelectFile");
     auto* where = new QGroupBox("Where is the file located?", this);
     where->setObjectName("fraFileLocation");
@@ -100,7 +96,7 @@ frmSelectFile::frmSelectFile(QWidget* parent) : QDialog(parent) {
 }
 
 void frmSelectFile::Form_Load() {
-    setWindowTitle(Q(gSelectFileTitle));
+    setWindowTitle(Q(title_));
     optFileLocation[kLocalFile]->setChecked(true);
 }
 
@@ -121,7 +117,7 @@ void frmSelectFile::optFileLocation_Click(int Index) {
 void frmSelectFile::cmdSelectFile_Click() {
     try {
         std::string chosen; // no name: the dialogue opens in the current folder
-        if (prompter().OpenFileDialog(gSelectFileTitle, kWebPagesFilter, chosen))
+        if (prompter().OpenFileDialog(title_, kWebPagesFilter, chosen))
             txtPathURL->setText(Q(chosen));
     } catch (...) {
         if (CurrentErrorInfo().Number != err::CancelSelected)
@@ -133,8 +129,8 @@ void frmSelectFile::OKButton_Click() {
     const std::string text = Trim(txtPathURL->text().toStdString());
     const bool local = optFileLocation[kLocalFile]->isChecked();
     if (!AcceptableText(text, local)) return;
-    gSelectedSourceType = local ? kLocalFile : kWebAddress;
-    gSelectedPath = text;
+    selectedSourceType_ = local ? SourceType::LocalFile : SourceType::WebAddress;
+    selectedPath_ = text;
     accept();
 }
 

@@ -1,8 +1,8 @@
 #pragma once
-// Helps the user name one input: a file on the disk or a web address. Talks with its caller
-// through the three globals below.
+// Helps the user name one input: a file on the disk or a web address.
+#include "settings/ViewOptions.h"
+
 #include <QDialog>
-#include <cstdint>
 #include <string>
 
 class QGroupBox;
@@ -13,14 +13,15 @@ class QRadioButton;
 
 namespace orvane {
 
-extern std::string gSelectFileTitle;     // set by the caller: caption and open-file title
-extern std::string gSelectedPath;        // cleared by the caller; the trimmed choice after OK
-extern std::int32_t gSelectedSourceType; // 0 local file, 1 web address; kept, read by nobody
-
 class frmSelectFile : public QDialog {
     Q_OBJECT
   public:
-    explicit frmSelectFile(QWidget* parent = nullptr);
+    // `title` is the caption and the open-file dialogue's title.
+    explicit frmSelectFile(const std::string& title, QWidget* parent = nullptr);
+    // The trimmed choice after OK; empty otherwise.
+    const std::string& SelectedPath() const { return selectedPath_; }
+    // Where the choice after OK is.
+    SourceType SelectedSourceType() const { return selectedSourceType_; }
     void optFileLocation_Click(int Index);
     void cmdSelectFile_Click();
     void OKButton_Click();
@@ -32,6 +33,10 @@ class frmSelectFile : public QDialog {
 
   private:
     void Form_Load();
+
+    std::string title_;
+    std::string selectedPath_;
+    SourceType selectedSourceType_ = SourceType::LocalFile;
 
     QRadioButton* optFileLocation[2];
     QGroupBox* fraPathURL;

@@ -4,7 +4,6 @@
 #include "frame/Prompter.h"
 #include "settings/ExtractionOptions.h"
 #include "settings/NumericText.h"
-#include "settings/Session.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -51,7 +50,8 @@ void SetNumberBox(QLineEdit& box, bool inUse, int stored) {
 
 } // namespace
 
-frmTextExtractionOptions::frmTextExtractionOptions(QWidget* parent) : QDialog(parent) {
+frmTextExtractionOptions::frmTextExtractionOptions(clsExtractionOptions& options, QWidget* parent)
+    : QDialog(parent), options_(options) {
     setObjectName("frmTextExtractionOptions");
     setWindowTitle("Text Extraction Options");
     new QVBoxLayout(this);
@@ -132,7 +132,7 @@ void frmTextExtractionOptions::BuildWordFrame() {
 }
 
 void frmTextExtractionOptions::Form_Load() {
-    const clsExtractionOptions& o = *gExtractionOptions;
+    const clsExtractionOptions& o = options_;
     for (const SaveFormat& f : kSaveFormats)
         cboSaveAsFormats->addItem(f.text, f.number);
     cboSaveAsFormats->setCurrentIndex(cboSaveAsFormats->findData(o.MSWordSaveAsFormat));
@@ -158,13 +158,12 @@ void frmTextExtractionOptions::optFormatting_Click(int index) {
 }
 
 void frmTextExtractionOptions::chkFixedLineWidth_Click() {
-    SetNumberBox(*txtNumChars, chkFixedLineWidth->isChecked(),
-                 gExtractionOptions->MaxNumCharsPerLine);
+    SetNumberBox(*txtNumChars, chkFixedLineWidth->isChecked(), options_.MaxNumCharsPerLine);
 }
 
 void frmTextExtractionOptions::chkFixedLineWidthWord_Click() {
     SetNumberBox(*txtNumCharsWord, chkFixedLineWidthWord->isChecked(),
-                 gExtractionOptions->MSWordMaxNumCharsPerLine);
+                 options_.MSWordMaxNumCharsPerLine);
 }
 
 bool frmTextExtractionOptions::CheckNumber(QLineEdit& box, int& value) {
@@ -192,7 +191,7 @@ void frmTextExtractionOptions::cmdOK_Click() {
                           "Invalid Number of Chars");
         return;
     }
-    clsExtractionOptions& o = *gExtractionOptions;
+    clsExtractionOptions& o = options_;
     o.EnginePreference = optExtractionEngines[0]->isChecked() ? 0 : 1;
     o.OriginalFormat = optFormatting[0]->isChecked();
     if (o.OriginalFormat) {

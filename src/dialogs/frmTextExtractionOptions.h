@@ -1,6 +1,8 @@
 #pragma once
 // How text is taken out of a page: engine order, the internal engine's formatting, and the
 // office suite's save format.
+#include "settings/ExtractionOptions.h"
+
 #include <QDialog>
 
 class QCheckBox;
@@ -13,7 +15,8 @@ namespace orvane {
 class frmTextExtractionOptions : public QDialog {
     Q_OBJECT
   public:
-    explicit frmTextExtractionOptions(QWidget* parent = nullptr);
+    // OK writes the choices into `options`.
+    explicit frmTextExtractionOptions(clsExtractionOptions& options, QWidget* parent = nullptr);
     void optFormatting_Click(int index);
     void chkFixedLineWidth_Click();
     void chkFixedLineWidthWord_Click();
@@ -28,6 +31,7 @@ class frmTextExtractionOptions : public QDialog {
     // The three-step check of a number box; false after its box, with the focus on it.
     bool CheckNumber(QLineEdit& box, int& value);
 
+    clsExtractionOptions& options_;
     QRadioButton* optExtractionEngines[2];
     QRadioButton* optFormatting[2];
     QCheckBox* chkSingleLineParagraph;

@@ -1,8 +1,6 @@
 #include "dialogs/frmWhatAndHow.h"
 
 #include "frame/Prompter.h"
-#include "settings/Session.h"
-#include "settings/ViewOptions.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -36,7 +34,8 @@ void AddOptions(QGroupBox& box, const char* name, const char* const (&texts)[N],
 
 } // namespace
 
-frmWhatAndHow::frmWhatAndHow(QWidget* parent) : QDialog(parent) {
+frmWhatAndHow::frmWhatAndHow(cViewFileDiffsOptions& options, QWidget* parent)
+    : QDialog(parent), options_(options) {
     setObjectName("frmWhatAndHow");
     setWindowTitle("Comparison and Output Options");
     auto* layout = new QVBoxLayout(this);
@@ -72,10 +71,10 @@ frmWhatAndHow::frmWhatAndHow(QWidget* parent) : QDialog(parent) {
 
 void frmWhatAndHow::Form_Load() {
     LoadingOptions = true;
-    const cViewFileDiffsOptions& o = *gViewOptions;
-    optComparisonModes[std::clamp(o.ComparisonMode, 0, 2)]->setChecked(true);
-    if (o.ComparisonMode != ModeVisual) {
-        optOutputFormats[std::clamp(o.OutputFormat, 0, 1)]->setChecked(true);
+    const cViewFileDiffsOptions& o = options_;
+    optComparisonModes[std::clamp(ChoiceIndex(o.ComparisonMode), 0, 2)]->setChecked(true);
+    if (o.ComparisonMode != ComparisonMode::Visual) {
+        optOutputFormats[std::clamp(ChoiceIndex(o.OutputFormat), 0, 1)]->setChecked(true);
     } else {
         optOutputFormats[0]->setChecked(true);
         optOutputFormats[1]->setEnabled(false);
@@ -86,7 +85,7 @@ void frmWhatAndHow::Form_Load() {
 
 void frmWhatAndHow::optComparisonModes_Click(int index) {
     if (LoadingOptions) return;
-    if (index != ModeVisual) {
+    if (ChoiceAt<ComparisonMode>(index) != ComparisonMode::Visual) {
         optOutputFormats[1]->setEnabled(true);
     } else {
         optOutputFormats[0]->setChecked(true);
@@ -103,11 +102,11 @@ void frmWhatAndHow::optOutputFormats_Click(int index) {
 }
 
 void frmWhatAndHow::OKButton_Click() {
-    cViewFileDiffsOptions& o = *gViewOptions;
+    cViewFileDiffsOptions& o = options_;
     for (int i = 0; i < 3; ++i)
-        if (optComparisonModes[i]->isChecked()) o.ComparisonMode = i;
+        if (optComparisonModes[i]->isChecked()) o.ComparisonMode = ChoiceAt<ComparisonMode>(i);
     for (int i = 0; i < 2; ++i)
-        if (optOutputFormats[i]->isChecked()) o.OutputFormat = i;
+        if (optOutputFormats[i]->isChecked()) o.OutputFormat = ChoiceAt<OutputFormat>(i);
     o.ShowDialogueBeforeComparison = chkShowDialogue->isChecked();
     accept();
 }

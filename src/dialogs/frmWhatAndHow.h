@@ -1,6 +1,8 @@
 #pragma once
 // Before a comparison: what to compare and how to show it. No Cancel: closing by the frame
 // leaves the options as they were.
+#include "settings/ViewOptions.h"
+
 #include <QDialog>
 
 class QCheckBox;
@@ -11,7 +13,8 @@ namespace orvane {
 class frmWhatAndHow : public QDialog {
     Q_OBJECT
   public:
-    explicit frmWhatAndHow(QWidget* parent = nullptr);
+    // OK writes the choices into `options`.
+    explicit frmWhatAndHow(cViewFileDiffsOptions& options, QWidget* parent = nullptr);
     void OKButton_Click();
     void optComparisonModes_Click(int index);
     void optOutputFormats_Click(int index);
@@ -21,6 +24,7 @@ class frmWhatAndHow : public QDialog {
 
   private:
     void Form_Load();
+    cViewFileDiffsOptions& options_;
     QRadioButton* optComparisonModes[3];
     QRadioButton* optOutputFormats[2];
     QCheckBox* chkShowDialogue;

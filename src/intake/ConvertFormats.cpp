@@ -7,7 +7,6 @@
 #include "intake/Formats.h"
 #include "intake/OfficeConverter.h"
 #include "settings/ExtractionOptions.h"
-#include "settings/Session.h"
 #include "settings/ViewOptions.h"
 
 #include <filesystem>
@@ -42,17 +41,18 @@ bool RunWordProcessor(const std::string& path, const std::string& textFile,
 }
 
 bool ConvertFileWith(const std::string& Path, int Method, std::string& TextFile,
-                     std::string& FailureReason, const clsExtractionOptions& options) {
+                     std::string& FailureReason, ComparisonMode mode,
+                     const clsExtractionOptions& options) {
     try {
         if (Method == kMethodNone) return true;
         if (Method != kMethodHtml) return false;
         if (TextFile.empty()) TextFile = MakeTextFileSpec();
-        switch (gViewOptions->ComparisonMode) {
-        case ModeCode:
+        switch (mode) {
+        case ComparisonMode::Code:
             if (CopyFile(Path, TextFile)) return true;
             FailureReason = "Copy of HTML file to temp file failed. :" + TextFile;
             return false;
-        case ModeText: {
+        case ComparisonMode::Text: {
             std::string message;
             if (ConvertHTMLToText(Path, TextFile, message, options)) return true;
             FailureReason = !message.empty() ? message
@@ -60,7 +60,7 @@ bool ConvertFileWith(const std::string& Path, int Method, std::string& TextFile,
                                                "an alternate converter.";
             return false;
         }
-        case ModeVisual:
+        case ComparisonMode::Visual:
             return true;
         default:
             return false;
@@ -74,18 +74,15 @@ bool ConvertFileWith(const std::string& Path, int Method, std::string& TextFile,
 } // namespace
 
 bool ConvertFile(const std::string& Path, int Method, const std::string& Format,
-                 std::string& TextFile, std::string& FailureReason) {
+                 std::string& TextFile, std::string& FailureReason, ComparisonMode Mode,
+                 const clsExtractionOptions& Options) {
     (void)Format;
-    return ConvertFileWith(Path, Method, TextFile, FailureReason, *gExtractionOptions);
+    return ConvertFileWith(Path, Method, TextFile, FailureReason, Mode, Options);
 }
 
 bool ConvertFileIfNeeded(const std::string& Path, const std::string& Format, std::string& TextFile,
-                         std::string& FailureReason) {
-    return ConvertFileIfNeeded(Path, Format, TextFile, FailureReason, *gExtractionOptions);
-}
-
-bool ConvertFileIfNeeded(const std::string& Path, const std::string& Format, std::string& TextFile,
-                         std::string& FailureReason, const clsExtractionOptions& Options) {
+                         std::string& FailureReason, ComparisonMode Mode,
+                         const clsExtractionOptions& Options) {
     try {
         int attempts = 0;
         const int method = GetConversionMethodForFormat(Path, Format);
@@ -98,8 +95,9 @@ bool ConvertFileIfNeeded(const std::string& Path, const std::string& Format, std
         bool internal = Options.EnginePreference == 0;
         std::string message; // the internal engine's words; the word processor's stay unread
         for (int turn = 1;; ++turn) {
-            const bool ok = internal ? ConvertFileWith(Path, method, TextFile, message, Options)
-                                     : RunWordProcessor(Path, TextFile, Options, attempts);
+            const bool ok = internal
+                                ? ConvertFileWith(Path, method, TextFile, message, Mode, Options)
+                                : RunWordProcessor(Path, TextFile, Options, attempts);
             if (internal) ++attempts;
             if (ok) return true;
             if (attempts == 2) {

@@ -35,9 +35,9 @@ void ShowOpenWithDialog(const std::string& Path) {
         StartProgram({program, Path});
 }
 
-void ShowHTMLFileInBrowser(const std::string& Target, int SourceType) {
+void ShowHTMLFileInBrowser(const std::string& Target, SourceType Source) {
     try {
-        if (SourceType == 1) {
+        if (Source == SourceType::WebAddress) {
             if (!QDesktopServices::openUrl(QUrl(QString::fromStdString(Target))))
                 prompter().MsgBox("Web Page not opened", MsgIcon::None, "");
             return;

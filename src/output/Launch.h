@@ -1,6 +1,8 @@
 #pragma once
 // Opening a file or page in the user's own programs. Programs start with an argument list, never
 // through a shell, and run on without being watched.
+#include "settings/ViewOptions.h"
+
 #include <string>
 #include <vector>
 
@@ -10,9 +12,9 @@ namespace orvane {
 // is none.
 bool LoadFileInNotepad(const std::string& Path);
 
-// SourceType 1: the address in the default browser; otherwise the file in the program the
+// A web address in the default browser; otherwise the file in the program the
 // desktop associates with its type, or the Open With chooser where there is none.
-void ShowHTMLFileInBrowser(const std::string& Target, int SourceType);
+void ShowHTMLFileInBrowser(const std::string& Target, SourceType Source);
 
 // Lets the user pick a program to open Path with.
 void ShowOpenWithDialog(const std::string& Path);

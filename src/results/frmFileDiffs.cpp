@@ -60,7 +60,8 @@ std::string IniFilePath() {
 
 } // namespace
 
-frmFileDiffs::frmFileDiffs(QWidget* parent) : QMainWindow(parent) {
+frmFileDiffs::frmFileDiffs(Session& session, FileDiffEngine& fileDiff, QWidget* parent)
+    : QMainWindow(parent), session_(session), fileDiff_(fileDiff) {
     setObjectName("frmFileDiffs");
     setWindowTitle("Orvane");
     client_ = new QWidget(this);
@@ -117,13 +118,13 @@ void frmFileDiffs::Form_Load(const std::string& commandLine) {
             grid->SetRows(2);
             grid->SetTextMatrix(0, 0, kIdlePrompt);
         }
-        modIniFile::ReadProgramOptionsFromIniFile(*this);
+        modIniFile::ReadProgramOptionsFromIniFile(session_, *this);
         ApplyNewFont(GridFontName(kGrdOriginalFile), RoundToInt32(GridFontSize(kGrdOriginalFile)),
                      GridFontBold(kGrdOriginalFile), GridFontItalic(kGrdOriginalFile));
         ShowLineDiffPrompt();
         SetCommandsForNoResults();
         PopulateFileComboBoxesFromIniFile();
-        ShowGridsOrVisualReport(gViewOptions->OutputFormat != 0);
+        ShowGridsOrVisualReport(session_.ViewOptions.OutputFormat != OutputFormat::OneWindow);
         bool firstRun = !std::filesystem::exists(IniFilePath());
         if (!commandLine.empty()) {
             std::string original, revised, report;
@@ -167,7 +168,7 @@ void frmFileDiffs::Form_Unload() {
     }
     // The session's options and line differ stay alive until the program ends: a run still
     // unwinding from a fill may read them.
-    modIniFile::SaveProgramOptionsToIniFile(*this);
+    modIniFile::SaveProgramOptionsToIniFile(session_, *this);
     DiffList_.clear();
     BookmarkList.clear();
     SearchTextList.clear();

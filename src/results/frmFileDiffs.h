@@ -6,6 +6,7 @@
 #include "results/FlexGrid.h"
 #include "results/WindowLayout.h"
 #include "settings/OptionsWindow.h"
+#include "settings/Session.h"
 #include "settings/ViewOptions.h"
 
 #include <QDialog>
@@ -40,7 +41,8 @@ enum MousePointerValue { PointerDefault = 0, PointerHourglass = 11 };
 class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSurroundings {
     Q_OBJECT
   public:
-    explicit frmFileDiffs(QWidget* parent = nullptr);
+    // The session and the line differ belong to the program and outlive the window.
+    frmFileDiffs(Session& session, FileDiffEngine& fileDiff, QWidget* parent = nullptr);
     ~frmFileDiffs() override;
 
     // Start-up: options, grids, idle look, then the command line (quoted tokens).
@@ -164,6 +166,8 @@ class frmFileDiffs : public QMainWindow, public OptionsWindow, public CompareSur
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    Session& session_;
+    FileDiffEngine& fileDiff_;
     void BuildWidgets();
     void PlaceRegions();
     void SizeToDesign();

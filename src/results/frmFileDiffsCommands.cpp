@@ -87,11 +87,11 @@ void frmFileDiffs::ConnectCommands() {
     c.On("mnuFileFindNext", [this] { mnuFileFindAgain_Click(true); });
     c.On("mnuFileFindPrevious", [this] { mnuFileFindAgain_Click(false); });
     c.On("mnuOptionsTextExtraction", [this] {
-        frmTextExtractionOptions dialogue(this);
+        frmTextExtractionOptions dialogue(session_.ExtractionOptions, this);
         ShowModal(dialogue);
     });
     c.On("mnuOptionsHTMLEditor", [this] {
-        frmHTMLEditor dialogue(this);
+        frmHTMLEditor dialogue(session_.HTMLEditorFileSpec, this);
         ShowModal(dialogue);
     });
     c.On("mnuOptionsFont", [this] { mnuOptionsFont_Click(); });
@@ -123,7 +123,7 @@ void frmFileDiffs::ConnectCommands() {
         QAction* item = c.Item(t.name);
         item->setCheckable(true);
         c.On(t.name, [this, t, item] {
-            (*gViewOptions).*t.field = item->isChecked();
+            session_.ViewOptions.*t.field = item->isChecked();
             if (std::string(t.name) == "mnuOptionsShowLineNumbers")
                 prompter().MsgBox("This setting will take effect on your next comparison.",
                                   MsgIcon::Information, "Show Line Numbers");
@@ -156,31 +156,36 @@ void frmFileDiffs::ConnectCommands() {
 // choices stay off, and a stored choice of either starts as Source Code, side by side.
 void frmFileDiffs::ComparisonModeOption(int i) {
     CheckOnly(*commands_, "mnuOptionsComparisonModeOption", 3, i);
-    gViewOptions->ComparisonMode = i;
-    if (i == ModeVisual && gViewOptions->OutputFormat == OutputSideBySide) {
-        gViewOptions->OutputFormat = OutputOneWindow;
-        CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, OutputOneWindow);
+    session_.ViewOptions.ComparisonMode = ChoiceAt<ComparisonMode>(i);
+    if (session_.ViewOptions.ComparisonMode == ComparisonMode::Visual &&
+        session_.ViewOptions.OutputFormat == OutputFormat::SideBySide) {
+        session_.ViewOptions.OutputFormat = OutputFormat::OneWindow;
+        CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2,
+                  ChoiceIndex(OutputFormat::OneWindow));
     }
     CompareFiles(true);
 }
 
 void frmFileDiffs::OutputFormatOption(int i) {
-    if (i == OutputSideBySide && gViewOptions->ComparisonMode == ModeVisual) {
+    const OutputFormat format = ChoiceAt<OutputFormat>(i);
+    if (format == OutputFormat::SideBySide &&
+        session_.ViewOptions.ComparisonMode == ComparisonMode::Visual) {
         prompter().MsgBox("The visual aspect differences cannot be displayed in two windows.",
                           MsgIcon::Information, "Side by Side Not Supported");
-        CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, gViewOptions->OutputFormat);
+        CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2,
+                  ChoiceIndex(session_.ViewOptions.OutputFormat));
         return;
     }
     CheckOnly(*commands_, "mnuOptionsOutputFormatOption", 2, i);
-    gViewOptions->OutputFormat = i;
+    session_.ViewOptions.OutputFormat = format;
     CompareFiles(true);
 }
 
 // Two windows: the selected row is shown again at the new level; one window compares again.
 void frmFileDiffs::DiffDetailOption(int i) {
     CheckOnly(*commands_, "mnuOptionsDiffDetailOption", 3, i);
-    gViewOptions->ComparisonLevel = i;
-    if (gViewOptions->OutputFormat != OutputOneWindow)
+    session_.ViewOptions.ComparisonLevel = ChoiceAt<ComparisonLevel>(i);
+    if (session_.ViewOptions.OutputFormat != OutputFormat::OneWindow)
         Grid_Click(Side::Original);
     else
         CompareFiles(true);

@@ -15,7 +15,8 @@ namespace orvane {
 
 void frmFileDiffs::CompareFiles(bool SkipDialogue) {
     RunGate::Hold run(*gate_);
-    orvane::CompareFiles(*this, *gViewOptions, *gFileDiff, SkipDialogue);
+    orvane::CompareFiles(*this, session_.ViewOptions, session_.ExtractionOptions, fileDiff_,
+                         SkipDialogue);
 }
 
 std::string frmFileDiffs::InputText(Side side) const {
@@ -25,14 +26,14 @@ std::string frmFileDiffs::InputText(Side side) const {
 
 // The dialogue, and the menu checks that follow what it wrote.
 void frmFileDiffs::OfferComparisonDialogue() {
-    frmWhatAndHow dialogue(this);
+    frmWhatAndHow dialogue(session_.ViewOptions, this);
     ShowModal(dialogue);
     DoEvents();
-    const cViewFileDiffsOptions& o = *gViewOptions;
+    const cViewFileDiffsOptions& o = session_.ViewOptions;
     for (int i = 0; i < 3; ++i)
-        SetMenuChecked("mnuOptionsComparisonModeOption", i, i == o.ComparisonMode);
+        SetMenuChecked("mnuOptionsComparisonModeOption", i, i == ChoiceIndex(o.ComparisonMode));
     for (int i = 0; i < 2; ++i)
-        SetMenuChecked("mnuOptionsOutputFormatOption", i, i == o.OutputFormat);
+        SetMenuChecked("mnuOptionsOutputFormatOption", i, i == ChoiceIndex(o.OutputFormat));
     SetMenuChecked("mnuOptionsShowDialogue", -1, o.ShowDialogueBeforeComparison);
 }
 
@@ -55,7 +56,7 @@ bool frmFileDiffs::FillFromAlignedRows(const std::string& original, const std::s
     try {
         ResetDiffState();
         const bool loaded = LoadFilesIntoGrids(original, revised, originalGrid_, revisedGrid_,
-                                               gViewOptions->ShowLineNumbers);
+                                               session_.ViewOptions.ShowLineNumbers);
         SetMousePointer(PointerDefault);
         if (!loaded) return false;
         if (!PaintAlignment(alignment, originalGrid_, revisedGrid_)) return false;

@@ -32,7 +32,7 @@ class ScreenHourglass {
 
 std::string frmFileDiffs::CurrentLine(Side side) const {
     const FlexGrid& grid = side == Side::Original ? originalGrid_ : revisedGrid_;
-    return LineTextOfCell(grid.Text(), gViewOptions->ShowLineNumbers);
+    return LineTextOfCell(grid.Text(), session_.ViewOptions.ShowLineNumbers);
 }
 
 void frmFileDiffs::ShowDetailForCurrentRow() {
@@ -44,11 +44,11 @@ void frmFileDiffs::ShowDetailForCurrentRow() {
 }
 
 void frmFileDiffs::DisplayLineDiffs() {
-    switch (gViewOptions->ComparisonLevel) {
-    case LevelCharacter:
+    switch (session_.ViewOptions.ComparisonLevel) {
+    case ComparisonLevel::Character:
         DisplayLineDiffsCharLevel();
         break;
-    case LevelWord:
+    case ComparisonLevel::Word:
         DisplayLineDiffsWordLevel();
         break;
     default:
@@ -96,8 +96,8 @@ void frmFileDiffs::DisplayLineDiffsCharLevel() {
             DecodeCellText(CurrentLine(Side::Original), originalGrid_.Encoding());
         const QString revised = DecodeCellText(CurrentLine(Side::Revised), revisedGrid_.Encoding());
         lcs::Marks marks1, marks2;
-        modDiff::StringDiffsCharLevel(ToUtf32(original), ToUtf32(revised), gViewOptions->IgnoreCase,
-                                      marks1, marks2);
+        modDiff::StringDiffsCharLevel(ToUtf32(original), ToUtf32(revised),
+                                      session_.ViewOptions.IgnoreCase, marks1, marks2);
         PaintDetail(*rtfLineDiff[0], original, CharacterRuns(marks1));
         DoEvents();
         PaintDetail(*rtfLineDiff[1], revised, CharacterRuns(marks2));
@@ -115,7 +115,7 @@ void frmFileDiffs::DisplayLineDiffsWordLevel() {
             ToUtf32(DecodeCellText(CurrentLine(Side::Original), originalGrid_.Encoding())),
             ToUtf32(DecodeCellText(CurrentLine(Side::Revised), revisedGrid_.Encoding()))};
         lcs::Marks marks[2];
-        modDiff::StringDiffsWordLevel(texts[0], texts[1], gViewOptions->IgnoreCase, marks[0],
+        modDiff::StringDiffsWordLevel(texts[0], texts[1], session_.ViewOptions.IgnoreCase, marks[0],
                                       marks[1]);
         for (int side = 0; side < 2; ++side) {
             strutil::WordTable words;

@@ -80,15 +80,14 @@ void frmFileDiffs::AddFilesToIni(const std::string& Original, const std::string&
 
 void frmFileDiffs::SelectFile(Side side) {
     try {
-        gSelectFileTitle =
-            side == Side::Original ? "Select Original HTML file" : "Select Revised HTML file";
-        gSelectedPath.clear();
-        frmSelectFile dialogue(this);
+        frmSelectFile dialogue(side == Side::Original ? "Select Original HTML file"
+                                                      : "Select Revised HTML file",
+                               this);
         // The location box completes paths as the file boxes do.
         if (auto* path = dialogue.findChild<QLineEdit*>("txtPathURL")) AttachPathCompletion(*path);
         ShowModal(dialogue);
-        if (gSelectedPath.empty()) return;
-        FileBox(side)->setEditText(QString::fromStdString(gSelectedPath));
+        if (dialogue.SelectedPath().empty()) return;
+        FileBox(side)->setEditText(QString::fromStdString(dialogue.SelectedPath()));
         // Both commands test the Original grid.
         if (originalGrid_.TextMatrix(0, 0).empty()) ResetResultsDisplay();
     } catch (...) {

@@ -76,7 +76,7 @@ bool frmFileDiffs::RowsHaveNoColour() const {
 }
 
 bool frmFileDiffs::EitherLineEmpty() const {
-    const bool numbers = gViewOptions->ShowLineNumbers;
+    const bool numbers = session_.ViewOptions.ShowLineNumbers;
     return LineTextOfCell(originalGrid_.Text(), numbers).empty() ||
            LineTextOfCell(revisedGrid_.Text(), numbers).empty();
 }

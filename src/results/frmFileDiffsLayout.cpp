@@ -99,7 +99,7 @@ void frmFileDiffs::Form_Resize() {
     const float scrollBar = Twips(style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     const float outerWidth = Twips(frameGeometry().width());
     FormResize(regions_, outerWidth, Twips(client_->height()), scrollBar,
-               gViewOptions ? gViewOptions->OutputFormat != 0 : true);
+               session_.ViewOptions.OutputFormat != OutputFormat::OneWindow);
     PlaceRegions();
 }
 

@@ -53,7 +53,7 @@ int frmFileDiffs::CompareAndDisplayWithReport(const ReportRequest& r) {
     DiffReportControl& report = ReportControl();
     try {
         report.SetDiffOptions(true, true, false, r.IgnoreFormatting, r.IgnoreCase, r.WhiteSpaceMode,
-                              r.Level);
+                              ChoiceIndex(r.Level));
         report.SetOriginalSource(r.Original);
         report.SetRevisedSource(r.Revised);
         report.SetShowNumbers(r.ShowNumbers);

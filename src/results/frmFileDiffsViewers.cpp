@@ -58,7 +58,8 @@ void frmFileDiffs::ViewInBrowser(Side side) {
     try {
         std::string source;
         bool isUrl = false;
-        if (ViewerSource(side, source, isUrl)) ShowHTMLFileInBrowser(source, isUrl ? 1 : 0);
+        if (ViewerSource(side, source, isUrl))
+            ShowHTMLFileInBrowser(source, isUrl ? SourceType::WebAddress : SourceType::LocalFile);
     } catch (...) {
         ReportUnexpectedError(HandlerName(side, "InDefaultBrowser"));
     }
@@ -70,7 +71,7 @@ void frmFileDiffs::ViewSourceCode(Side side) {
         std::string source;
         bool isUrl = false;
         if (!ViewerSource(side, source, isUrl)) return;
-        if (isUrl && gViewOptions->ShowInternetSourceReminder)
+        if (isUrl && session_.ViewOptions.ShowInternetSourceReminder)
             prompter().MsgBox(
                 "The source code for this web page will be shown in a temporary file.\r\nIf you "
                 "make changes to this temporary file, you must save it locally\r\nand upload it "
@@ -80,9 +81,9 @@ void frmFileDiffs::ViewSourceCode(Side side) {
         if (isUrl && (page = DownloadForViewer(side, source)).empty()) return;
         const std::string file = isUrl ? page : source;
         // The editor is started with the file as its one argument, never through a shell.
-        const bool shown = IsNotepad(gHTMLEditorFileSpec)
+        const bool shown = IsNotepad(session_.HTMLEditorFileSpec)
                                ? LoadFileInNotepad(file)
-                               : (StartProgram({gHTMLEditorFileSpec, file}), true);
+                               : (StartProgram({session_.HTMLEditorFileSpec, file}), true);
         if (!shown)
             prompter().MsgBox("Unable to show the source code in your editor.",
                               MsgIcon::Exclamation,
@@ -120,12 +121,10 @@ bool frmFileDiffs::ViewFileAsText(const std::string& FileSpec) {
             DoEvents();
             std::string textFile = FileSpec;
             bool ready = true;
-            if (method != 0) {
-                const int mode = gViewOptions->ComparisonMode;
-                gViewOptions->ComparisonMode = ModeText;
-                ready = modConvertFormats::ConvertFileIfNeeded(FileSpec, format, textFile, reason);
-                gViewOptions->ComparisonMode = mode;
-            }
+            if (method != 0)
+                ready = modConvertFormats::ConvertFileIfNeeded(FileSpec, format, textFile, reason,
+                                                               ComparisonMode::Text,
+                                                               session_.ExtractionOptions);
             result = ready && LoadFileInNotepad(textFile);
         }
     } catch (...) {

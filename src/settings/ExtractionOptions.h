@@ -1,5 +1,5 @@
 #pragma once
-// All text extraction settings: one instance, gExtractionOptions, lives from start to exit.
+// All text extraction settings: one instance, in the session, lives from start to exit.
 // No validation here; the options dialogue keeps OriginalFormat and the layout switches apart.
 #include <cstdint>
 

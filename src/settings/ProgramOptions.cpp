@@ -18,19 +18,20 @@
 namespace orvane::modIniFile {
 namespace {
 
-constexpr long kObjectNotSet = 91;
-
 // Multiple-choice options are stored as words, compared with case.
-struct WordChoice {
+template <class Choice> struct WordChoice {
     const char* Word;
-    int Value;
+    Choice Value;
 };
-constexpr WordChoice kComparisonModes[] = {
-    {"Visual", ModeVisual}, {"Code", ModeCode}, {"Text", ModeText}};
-constexpr WordChoice kOutputFormats[] = {{"OneWindow", OutputOneWindow},
-                                         {"SideBySide", OutputSideBySide}};
-constexpr WordChoice kComparisonLevels[] = {
-    {"Character", LevelCharacter}, {"Word", LevelWord}, {"Line", LevelLine}};
+constexpr WordChoice<ComparisonMode> kComparisonModes[] = {{"Visual", ComparisonMode::Visual},
+                                                           {"Code", ComparisonMode::Code},
+                                                           {"Text", ComparisonMode::Text}};
+constexpr WordChoice<OutputFormat> kOutputFormats[] = {{"OneWindow", OutputFormat::OneWindow},
+                                                       {"SideBySide", OutputFormat::SideBySide}};
+constexpr WordChoice<ComparisonLevel> kComparisonLevels[] = {
+    {"Character", ComparisonLevel::Character},
+    {"Word", ComparisonLevel::Word},
+    {"Line", ComparisonLevel::Line}};
 
 constexpr const char* kInternalFirst = "InternalMSWord";
 constexpr const char* kWordFirst = "MSWordInternal";
@@ -47,8 +48,9 @@ bool ReadBoolean(CIniFile& ini, const char* key, const char* def) {
 }
 
 // An unknown word leaves the field as it was.
-void ReadWord(CIniFile& ini, const char* key, const char* def, std::span<const WordChoice> words,
-              int& field) {
+template <class Choice>
+void ReadWord(CIniFile& ini, const char* key, const char* def,
+              std::span<const WordChoice<Choice>> words, Choice& field) {
     const std::string text = ReadText(ini, key, def);
     for (const auto& w : words)
         if (text == w.Word) field = w.Value;
@@ -64,7 +66,9 @@ void WriteBoolean(CIniFile& ini, const char* key, bool value) {
 }
 
 // A value outside the table writes nothing: the file keeps its old line.
-void WriteWord(CIniFile& ini, const char* key, std::span<const WordChoice> words, int value) {
+template <class Choice>
+void WriteWord(CIniFile& ini, const char* key, std::span<const WordChoice<Choice>> words,
+               Choice value) {
     for (const auto& w : words)
         if (value == w.Value) Write(ini, key, w.Word);
 }
@@ -92,10 +96,12 @@ void ReadCheckedOption(CIniFile& ini, OptionsWindow& window, const char* key, co
     window.SetMenuChecked(menu, -1, field);
 }
 
+template <class Choice>
 void ReadChoiceOption(CIniFile& ini, OptionsWindow& window, const char* key, const char* def,
-                      std::span<const WordChoice> words, int& field, const char* menuArray) {
+                      std::span<const WordChoice<Choice>> words, Choice& field,
+                      const char* menuArray) {
     ReadWord(ini, key, def, words, field);
-    window.SetMenuChecked(menuArray, field, true);
+    window.SetMenuChecked(menuArray, ChoiceIndex(field), true);
 }
 
 void ReadCompareSection(CIniFile& ini, OptionsWindow& window, cViewFileDiffsOptions& v) {
@@ -108,12 +114,13 @@ void ReadCompareSection(CIniFile& ini, OptionsWindow& window, cViewFileDiffsOpti
     v.ForceTextCompare = ReadBoolean(ini, "ForceTextCompare", "False");
     ReadCheckedOption(ini, window, "ShowLineNumbers", "True", v.ShowLineNumbers,
                       "mnuOptionsShowLineNumbers");
-    ReadChoiceOption(ini, window, "ComparisonMode", "Visual", kComparisonModes, v.ComparisonMode,
-                     "mnuOptionsComparisonModeOption");
-    ReadChoiceOption(ini, window, "OutputFormat", "SideBySide", kOutputFormats, v.OutputFormat,
-                     "mnuOptionsOutputFormatOption");
-    ReadChoiceOption(ini, window, "ComparisonLevel", "Character", kComparisonLevels,
-                     v.ComparisonLevel, "mnuOptionsDiffDetailOption");
+    ReadChoiceOption<ComparisonMode>(ini, window, "ComparisonMode", "Visual", kComparisonModes,
+                                     v.ComparisonMode, "mnuOptionsComparisonModeOption");
+    ReadChoiceOption<OutputFormat>(ini, window, "OutputFormat", "SideBySide", kOutputFormats,
+                                   v.OutputFormat, "mnuOptionsOutputFormatOption");
+    ReadChoiceOption<ComparisonLevel>(ini, window, "ComparisonLevel", "Character",
+                                      kComparisonLevels, v.ComparisonLevel,
+                                      "mnuOptionsDiffDetailOption");
     ReadCheckedOption(ini, window, "ShowDialogueBeforeComparison", "True",
                       v.ShowDialogueBeforeComparison, "mnuOptionsShowDialogue");
     ReadCheckedOption(ini, window, "ShowInternetSourceReminder", "True",
@@ -150,7 +157,8 @@ void ReadFormSection(CIniFile& ini, OptionsWindow& window) {
                           ReadBoolean(ini, "PaneTooltips", "False"));
 }
 
-void ReadTextExtractionSection(CIniFile& ini, clsExtractionOptions& e, KeyGuard& guard) {
+void ReadTextExtractionSection(CIniFile& ini, Session& session, KeyGuard& guard) {
+    clsExtractionOptions& e = session.ExtractionOptions;
     ini.Section("Text Extraction");
     e.EnginePreference =
         ReadText(ini, "ExtractionEnginePrefs", kInternalFirst) == kInternalFirst ? 0 : 1;
@@ -168,19 +176,14 @@ void ReadTextExtractionSection(CIniFile& ini, clsExtractionOptions& e, KeyGuard&
     });
     const std::string saveAs = ReadText(ini, "MSWordSaveAsFormat", "2");
     guard([&] { e.MSWordSaveAsFormat = IsNumeric(saveAs) ? ToLongRounded(saveAs) : 2; });
-    gTextWithLayoutConverterPath =
+    session.TextWithLayoutConverterPath =
         ReadText(ini, "TextWithLayoutConverterPath",
                  "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
 }
 
-void ReadMiscellaneousSection(CIniFile& ini) {
+void ReadMiscellaneousSection(CIniFile& ini, Session& session) {
     ini.Section("Miscellaneous");
-    gHTMLEditorFileSpec = ReadText(ini, "HTMLEditorFileSpec", "Notepad.exe");
-}
-
-void RequireOptionObjects() {
-    if (!gViewOptions || !gExtractionOptions)
-        throw RuntimeError(kObjectNotSet, "Object variable or With block variable not set");
+    session.HTMLEditorFileSpec = ReadText(ini, "HTMLEditorFileSpec", "Notepad.exe");
 }
 
 void SaveCompareSection(CIniFile& ini, const cViewFileDiffsOptions& v) {
@@ -189,9 +192,9 @@ void SaveCompareSection(CIniFile& ini, const cViewFileDiffsOptions& v) {
     WriteBoolean(ini, "IgnoreWhiteSpace", v.IgnoreWhiteSpace);
     WriteBoolean(ini, "IgnoreTextFormatting", v.IgnoreTextFormatting);
     WriteBoolean(ini, "ShowLineNumbers", v.ShowLineNumbers);
-    WriteWord(ini, "ComparisonMode", kComparisonModes, v.ComparisonMode);
-    WriteWord(ini, "OutputFormat", kOutputFormats, v.OutputFormat);
-    WriteWord(ini, "ComparisonLevel", kComparisonLevels, v.ComparisonLevel);
+    WriteWord<ComparisonMode>(ini, "ComparisonMode", kComparisonModes, v.ComparisonMode);
+    WriteWord<OutputFormat>(ini, "OutputFormat", kOutputFormats, v.OutputFormat);
+    WriteWord<ComparisonLevel>(ini, "ComparisonLevel", kComparisonLevels, v.ComparisonLevel);
     WriteBoolean(ini, "ShowDialogueBeforeComparison", v.ShowDialogueBeforeComparison);
     WriteBoolean(ini, "ShowInternetSourceReminder", v.ShowInternetSourceReminder);
 }
@@ -217,7 +220,8 @@ void SaveGridsSection(CIniFile& ini, const OptionsWindow& window) {
     Write(ini, "FontSize", FontSizeText(window.GridFontSize(kGrdOriginalFile)));
 }
 
-void SaveTextExtractionSection(CIniFile& ini, const clsExtractionOptions& e) {
+void SaveTextExtractionSection(CIniFile& ini, const Session& session) {
+    const clsExtractionOptions& e = session.ExtractionOptions;
     ini.Section("Text Extraction");
     Write(ini, "ExtractionEnginePrefs", e.EnginePreference == 0 ? kInternalFirst : kWordFirst);
     WriteBoolean(ini, "OriginalFormat", e.OriginalFormat);
@@ -227,41 +231,39 @@ void SaveTextExtractionSection(CIniFile& ini, const clsExtractionOptions& e) {
     WriteBoolean(ini, "MSWordLimitLineLength", e.MSWordLimitLineLength);
     Write(ini, "MSWordMaxNumCharsPerLine", std::to_string(e.MSWordMaxNumCharsPerLine));
     Write(ini, "MSWordSaveAsFormat", std::to_string(e.MSWordSaveAsFormat));
-    Write(ini, "TextWithLayoutConverterPath", gTextWithLayoutConverterPath);
+    Write(ini, "TextWithLayoutConverterPath", session.TextWithLayoutConverterPath);
 }
 
 } // namespace
 
-void ReadProgramOptionsFromIniFile(OptionsWindow& window) {
+void ReadProgramOptionsFromIniFile(Session& session, OptionsWindow& window) {
     try {
-        RequireOptionObjects();
         // A save killed mid-write leaves its temporary file; it is never finished, so it goes.
         RemoveStaleTemporaries(SettingsFolder() + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
         KeyGuard guard;
-        ReadCompareSection(ini, window, *gViewOptions);
+        ReadCompareSection(ini, window, session.ViewOptions);
         ReadGridsSection(ini, window, guard);
         ReadFormSection(ini, window);
-        ReadTextExtractionSection(ini, *gExtractionOptions, guard);
-        ReadMiscellaneousSection(ini);
+        ReadTextExtractionSection(ini, session, guard);
+        ReadMiscellaneousSection(ini, session);
     } catch (...) {
         ReportUnexpectedError("modIniFile.ReadProgramOptionsFromIniFile", "");
     }
 }
 
-void SaveProgramOptionsToIniFile(OptionsWindow& window) {
+void SaveProgramOptionsToIniFile(const Session& session, OptionsWindow& window) {
     try {
-        RequireOptionObjects();
         // Every key in one rewrite: a kill leaves the old settings or the new, never a mix.
         profile::WriteBatch batch(SettingsFolder() + ProgramIniFileName());
         CIniFile ini;
         ini.Name(ProgramIniFileName());
-        SaveCompareSection(ini, *gViewOptions);
+        SaveCompareSection(ini, session.ViewOptions);
         SaveGridsSection(ini, window);
-        SaveTextExtractionSection(ini, *gExtractionOptions);
+        SaveTextExtractionSection(ini, session);
         ini.Section("Miscellaneous");
-        Write(ini, "HTMLEditorFileSpec", gHTMLEditorFileSpec);
+        Write(ini, "HTMLEditorFileSpec", session.HTMLEditorFileSpec);
         ini.Section("Form");
         WriteBoolean(ini, "PaneTooltips", window.MenuChecked("mnuOptionsDisplayGridTooltips", -1));
     } catch (...) {

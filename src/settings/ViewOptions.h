@@ -4,22 +4,32 @@
 
 namespace orvane {
 
-enum SourceType : int { LocalFile = 0, WebAddress = 1 };
-enum ComparisonModeValue : int { ModeVisual = 0, ModeCode = 1, ModeText = 2 };
-enum OutputFormatValue : int { OutputOneWindow = 0, OutputSideBySide = 1 };
-enum ComparisonLevelValue : int { LevelCharacter = 0, LevelWord = 1, LevelLine = 2 };
+// The numbers are those of the settings file and of the menu and option-button arrays.
+enum class SourceType { LocalFile = 0, WebAddress = 1 };
+enum class ComparisonMode { Visual = 0, Code = 1, Text = 2 };
+enum class OutputFormat { OneWindow = 0, SideBySide = 1 };
+enum class ComparisonLevel { Character = 0, Word = 1, Line = 2 };
+
+// Item i of a menu or option-button array stands for the value numbered i.
+template <class Choice> constexpr int ChoiceIndex(Choice value) {
+    return static_cast<int>(value);
+}
+template <class Choice> constexpr Choice ChoiceAt(int index) {
+    return static_cast<Choice>(index);
+}
 
 struct cViewFileDiffsOptions {
     std::string OriginalFile;
     std::string RevisedFile;
-    int OriginalSourceType = LocalFile;
-    int RevisedSourceType = LocalFile;
+    // Qualified: each field shares its name with its type.
+    orvane::SourceType OriginalSourceType = orvane::SourceType::LocalFile;
+    orvane::SourceType RevisedSourceType = orvane::SourceType::LocalFile;
     bool IgnoreWhiteSpace = false;
     bool IgnoreCase = false;
     bool IgnoreTextFormatting = false;
     bool ForceTextCompare = false;
-    int ComparisonMode = ModeVisual;
-    int OutputFormat = OutputOneWindow;
+    orvane::ComparisonMode ComparisonMode = orvane::ComparisonMode::Visual;
+    orvane::OutputFormat OutputFormat = orvane::OutputFormat::OneWindow;
     bool OriginalTextExtracted = false;
     bool RevisedTextExtracted = false;
     std::string OriginalTextFile;
@@ -29,7 +39,7 @@ struct cViewFileDiffsOptions {
     bool ShowLineNumbers = true;
     bool ShowDialogueBeforeComparison = true;
     bool ShowInternetSourceReminder = true;
-    int ComparisonLevel = LevelCharacter;
+    orvane::ComparisonLevel ComparisonLevel = orvane::ComparisonLevel::Character;
     bool RunFromCommandLine = false;
     std::string CommandLineMessage;
 };
@@ -39,7 +49,7 @@ enum class Side { Original, Revised };
 
 struct SideFields {
     std::string& File;
-    int& SourceType;
+    orvane::SourceType& SourceType;
     bool& TextExtracted;
     std::string& TextFile;
     std::string& DownloadFile;
@@ -58,7 +68,7 @@ inline SideFields FieldsOf(cViewFileDiffsOptions& o, Side side) {
 inline std::string ComparedFile(const cViewFileDiffsOptions& o, Side side) {
     const SideFields f = FieldsOf(const_cast<cViewFileDiffsOptions&>(o), side);
     if (f.TextExtracted) return f.TextFile;
-    if (f.SourceType != LocalFile) return f.DownloadFile;
+    if (f.SourceType != SourceType::LocalFile) return f.DownloadFile;
     return f.File;
 }
 

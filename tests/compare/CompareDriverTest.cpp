@@ -5,7 +5,6 @@
 #include "frame/EngineLibraries.h"
 #include "frame/ProgramFolder.h"
 #include "settings/ExtractionOptions.h"
-#include "settings/Session.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
@@ -75,15 +74,15 @@ class Driver : public ::testing::Test {
         for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt})
             LoadEngine(e, ORVANE_BIN_DIR);
         engine = std::make_unique<FileDiffEngine>();
-        options.OutputFormat = OutputSideBySide;
-        options.ComparisonMode = ModeCode;
+        options.OutputFormat = OutputFormat::SideBySide;
+        options.ComparisonMode = ComparisonMode::Code;
         options.ShowDialogueBeforeComparison = false;
     }
 
     CompareOutcome Compare(const std::string& original, const std::string& revised) {
         window.inputs[0] = original;
         window.inputs[1] = revised;
-        const CompareOutcome outcome = CompareFiles(window, options, *engine, false);
+        const CompareOutcome outcome = CompareFiles(window, options, extraction, *engine, false);
         EXPECT_FALSE(window.busy) << "every way out ends idle";
         return outcome;
     }
@@ -92,6 +91,7 @@ class Driver : public ::testing::Test {
     ScopedRecordingPrompter prompter;
     std::unique_ptr<FileDiffEngine> engine;
     cViewFileDiffsOptions options;
+    clsExtractionOptions extraction;
     FakeWindow window;
 };
 
@@ -204,11 +204,11 @@ TEST_F(Driver, IdenticalFilesSaySoAndShowNothing) {
 }
 
 TEST_F(Driver, TheReportShowsItsDifferencesThenTheyAreRecorded) {
-    options.OutputFormat = OutputOneWindow;
-    options.ComparisonMode = ModeVisual;
+    options.OutputFormat = OutputFormat::OneWindow;
+    options.ComparisonMode = ComparisonMode::Visual;
     options.IgnoreWhiteSpace = true;
     options.IgnoreTextFormatting = true;
-    options.ComparisonLevel = LevelWord;
+    options.ComparisonLevel = ComparisonLevel::Word;
     options.ShowLineNumbers = false;
     const std::string a = dir.Write("a.html", "<p>1</p>\n"), b = dir.Write("b.html", "<p>2</p>\n");
     EXPECT_EQ(Compare(a, b), CompareOutcome::Shown);
@@ -222,25 +222,21 @@ TEST_F(Driver, TheReportShowsItsDifferencesThenTheyAreRecorded) {
     EXPECT_EQ(r.WhiteSpaceMode, 2);
     EXPECT_TRUE(r.IgnoreFormatting);
     EXPECT_FALSE(r.IgnoreCase);
-    EXPECT_EQ(r.Level, LevelWord);
+    EXPECT_EQ(r.Level, ComparisonLevel::Word);
     EXPECT_FALSE(r.ShowNumbers);
     EXPECT_FALSE(r.AllowWeb);
 }
 
 TEST_F(Driver, TheReportComparesWhatEachModeNames) {
-    options.OutputFormat = OutputOneWindow;
+    options.OutputFormat = OutputFormat::OneWindow;
     const std::string a = dir.Write("a.html", "<p>one</p>\n"),
                       b = dir.Write("b.html", "<p>two</p>\n");
-    options.ComparisonMode = ModeCode;
+    options.ComparisonMode = ComparisonMode::Code;
     Compare(a, b);
     EXPECT_EQ(window.request.CompareKind, 3);
     EXPECT_EQ(window.request.WhiteSpaceMode, 0);
-    options.ComparisonMode = ModeText; // the extracted texts, not the pages
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+    options.ComparisonMode = ComparisonMode::Text; // the extracted texts, not the pages
     Compare(a, b);
-    gViewOptions.reset();
-    gExtractionOptions.reset();
     EXPECT_EQ(window.request.CompareKind, 0);
     EXPECT_NE(window.request.Original, a);
     EXPECT_EQ(window.request.Original.substr(window.request.Original.size() - 4), ".wtd");
@@ -249,17 +245,15 @@ TEST_F(Driver, TheReportComparesWhatEachModeNames) {
 
 // A Compare that arrives while the report runs must not take over the run's temporary files.
 TEST_F(Driver, ASecondRunInsideARunIsTurnedAwayAndTheFirstCleansUp) {
-    options.OutputFormat = OutputOneWindow;
-    options.ComparisonMode = ModeText;
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
+    options.OutputFormat = OutputFormat::OneWindow;
+    options.ComparisonMode = ComparisonMode::Text;
     const std::string a = dir.Write("a.html", "<p>one</p>\n"),
                       b = dir.Write("b.html", "<p>two</p>\n");
     CompareOutcome nested = CompareOutcome::Shown;
     std::size_t callsBefore = 0;
     window.duringReport = [&] {
         callsBefore = window.calls.size();
-        nested = CompareFiles(window, options, *engine, true);
+        nested = CompareFiles(window, options, extraction, *engine, true);
     };
     const std::string firstTemp = [&] {
         EXPECT_EQ(Compare(a, b), CompareOutcome::Shown);
@@ -271,13 +265,11 @@ TEST_F(Driver, ASecondRunInsideARunIsTurnedAwayAndTheFirstCleansUp) {
     EXPECT_FALSE(std::filesystem::exists(firstTemp));
     window.duringReport = nullptr;
     EXPECT_EQ(Compare(a, b), CompareOutcome::Shown) << "and the next run after it goes ahead";
-    gViewOptions.reset();
-    gExtractionOptions.reset();
 }
 
 // Every code but 0 is told in one box titled "Compare Files", or in the unattended message.
 TEST_F(Driver, TheReportsCodesAreToldByTheirTable) {
-    options.OutputFormat = OutputOneWindow;
+    options.OutputFormat = OutputFormat::OneWindow;
     const std::string a = dir.Write("a.html", "1\n"), b = dir.Write("b.html", "2\n");
     const struct {
         int code;

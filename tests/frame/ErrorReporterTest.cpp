@@ -26,13 +26,9 @@ class ErrorReporterTest : public ::testing::Test {
   protected:
     void SetUp() override {
         gAppPath = dir.Path();
-        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-        RouteErrorsToReportRun();
+        RouteErrorsToReportRun(options);
     }
-    void TearDown() override {
-        SetErrorTextSink({});
-        gViewOptions.reset();
-    }
+    void TearDown() override { SetErrorTextSink({}); }
 
     void Report(long number, const std::string& detail, long dllError = 0) {
         try {
@@ -44,6 +40,7 @@ class ErrorReporterTest : public ::testing::Test {
 
     test::TempDir dir;
     test::ScopedRecordingPrompter prompter;
+    cViewFileDiffsOptions options;
 };
 
 const char* kSupport = "\r\n* If this problem persists, please contact our technical support staff "
@@ -92,11 +89,11 @@ TEST_F(ErrorReporterTest, BlankDetailWritesNothing) {
 }
 
 TEST_F(ErrorReporterTest, AReportFileRunTakesTheTextInsteadOfABox) {
-    gViewOptions->RunFromCommandLine = true;
+    options.RunFromCommandLine = true;
     Report(13, "");
     EXPECT_TRUE(prompter->boxes.empty());
-    EXPECT_EQ(gViewOptions->CommandLineMessage.rfind("Error: Something broke\r\n", 0), 0u);
-    EXPECT_NE(gViewOptions->CommandLineMessage.find("No: 13"), std::string::npos);
+    EXPECT_EQ(options.CommandLineMessage.rfind("Error: Something broke\r\n", 0), 0u);
+    EXPECT_NE(options.CommandLineMessage.find("No: 13"), std::string::npos);
 }
 
 TEST_F(ErrorReporterTest, AFailingDetailFileGivesTheHandlersOwnBox) {

@@ -13,18 +13,14 @@
 #include <QRadioButton>
 #include <QUrl>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace orvane::test {
 namespace {
 
 class SelectFileTest : public ::testing::Test {
   protected:
-    void SetUp() override {
-        gSelectFileTitle = "Select Original HTML file";
-        gSelectedPath.clear();
-        gSelectedSourceType = -1;
-        form = std::make_unique<frmSelectFile>();
-    }
+    void SetUp() override { form = std::make_unique<frmSelectFile>("Select Original HTML file"); }
     template <class T> T* Control(const char* name) {
         T* control = form->findChild<T*>(name);
         EXPECT_NE(control, nullptr) << name;
@@ -76,21 +72,23 @@ struct OkCase {
     const char* title; // of the refusal; nullptr when OK closes the dialogue
     const char* message;
     const char* selected;
-    int sourceType;
+    std::optional<SourceType> sourceType; // of an accepted text
 };
 
 TEST_F(SelectFileTest, OkRefusesOrHandsBackTheTrimmedText) {
     const OkCase cases[] = {
-        {0, "", "Invalid Path", "Please enter the path to the HTML file.", "", -1},
-        {0, "   ", "Invalid Path", "Please enter the path to the HTML file.", "", -1},
+        {0, "", "Invalid Path", "Please enter the path to the HTML file.", "", {}},
+        {0, "   ", "Invalid Path", "Please enter the path to the HTML file.", "", {}},
         // Existence is the driver's question.
-        {0, "  /no/such/file.html ", nullptr, nullptr, "/no/such/file.html", 0},
-        {1, "http://", "Invalid URL", "Please enter a Web Address.", "", -1},
-        {1, " HTTP:// ", "Invalid URL", "Please enter a Web Address.", "", -1},
-        {1, "", "Invalid URL", "Please enter a Web Address.", "", -1},
-        {1, "www.example.com", "Invalid URL", "The Web Address is not in a valid format.", "", -1},
-        {1, " https://example.com/a.html ", nullptr, nullptr, "https://example.com/a.html", 1},
-        {1, "ftp://example.com/a.html", nullptr, nullptr, "ftp://example.com/a.html", 1},
+        {0, "  /no/such/file.html ", nullptr, nullptr, "/no/such/file.html", SourceType::LocalFile},
+        {1, "http://", "Invalid URL", "Please enter a Web Address.", "", {}},
+        {1, " HTTP:// ", "Invalid URL", "Please enter a Web Address.", "", {}},
+        {1, "", "Invalid URL", "Please enter a Web Address.", "", {}},
+        {1, "www.example.com", "Invalid URL", "The Web Address is not in a valid format.", "", {}},
+        {1, " https://example.com/a.html ", nullptr, nullptr, "https://example.com/a.html",
+         SourceType::WebAddress},
+        {1, "ftp://example.com/a.html", nullptr, nullptr, "ftp://example.com/a.html",
+         SourceType::WebAddress},
     };
     for (const OkCase& c : cases) {
         SCOPED_TRACE(testing::Message() << c.location << " '" << c.text << "'");
@@ -99,8 +97,10 @@ TEST_F(SelectFileTest, OkRefusesOrHandsBackTheTrimmedText) {
         Location(c.location)->click();
         Text()->setText(c.text);
         PressOK();
-        EXPECT_EQ(gSelectedPath, c.selected);
-        EXPECT_EQ(gSelectedSourceType, c.sourceType);
+        EXPECT_EQ(form->SelectedPath(), c.selected);
+        if (c.sourceType) {
+            EXPECT_EQ(form->SelectedSourceType(), *c.sourceType);
+        }
         if (c.title) {
             ASSERT_EQ(prompter->boxes.size(), 1u);
             EXPECT_EQ(prompter->boxes[0].title, c.title);
@@ -118,7 +118,7 @@ TEST_F(SelectFileTest, CancelLeavesTheSelectionEmpty) {
     Text()->setText("/some/file.html");
     Control<QPushButton>("CancelButton")->click();
     EXPECT_EQ(form->result(), QDialog::Rejected);
-    EXPECT_EQ(gSelectedPath, "");
+    EXPECT_EQ(form->SelectedPath(), "");
 }
 
 TEST_F(SelectFileTest, BrowsedFileFillsTheBoxAndCancelKeepsIt) {

@@ -7,7 +7,6 @@
 #include "frame/EngineLibraries.h"
 #include "frame/ProgramFolder.h"
 #include "office/OfficeFixture.h"
-#include "settings/Session.h"
 #include "settings/ViewOptions.h"
 #include "support/RecordingPrompter.h"
 
@@ -25,9 +24,6 @@ const std::string kUnable = "Unable to extract the text data from file.\r\n\r\n"
 class Pipeline : public ::testing::Test {
   protected:
     void SetUp() override {
-        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-        gViewOptions->ComparisonMode = ModeText;
-        gExtractionOptions = std::make_unique<clsExtractionOptions>();
         UseEngines(ORVANE_BIN_DIR);
         const char* path = std::getenv("PATH");
         realPath_ = path != nullptr ? path : "";
@@ -35,8 +31,6 @@ class Pipeline : public ::testing::Test {
     void TearDown() override {
         FreeEngines();
         gAppPath = savedAppPath_;
-        gViewOptions.reset();
-        gExtractionOptions.reset();
         for (const std::string& f : made_) {
             std::error_code ec;
             std::filesystem::remove(f, ec);
@@ -81,8 +75,8 @@ class Pipeline : public ::testing::Test {
                  const clsExtractionOptions& options) {
         textFile.clear();
         reason.clear();
-        const bool ok =
-            modConvertFormats::ConvertFileIfNeeded(path, format, textFile, reason, options);
+        const bool ok = modConvertFormats::ConvertFileIfNeeded(path, format, textFile, reason,
+                                                               ComparisonMode::Text, options);
         if (!textFile.empty()) made_.push_back(textFile);
         return ok;
     }

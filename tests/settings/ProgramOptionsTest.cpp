@@ -60,23 +60,17 @@ class ProgramOptions : public ProgramFolderTest {
     void SetUp() override {
         ProgramFolderTest::SetUp();
         SetProgramIniFileName("orvane.ini");
-        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-        gExtractionOptions = std::make_unique<clsExtractionOptions>();
-        gHTMLEditorFileSpec.clear();
-        gTextWithLayoutConverterPath.clear();
     }
     void TearDown() override {
-        gViewOptions.reset();
-        gExtractionOptions.reset();
         SetProgramIniFileName("");
         ProgramFolderTest::TearDown();
     }
 
     void Read(const std::string& file) {
         WriteFile("orvane.ini", file);
-        modIniFile::ReadProgramOptionsFromIniFile(Window);
+        modIniFile::ReadProgramOptionsFromIniFile(session, Window);
     }
-    void Save() { modIniFile::SaveProgramOptionsToIniFile(Window); }
+    void Save() { modIniFile::SaveProgramOptionsToIniFile(session, Window); }
     bool Checked(const std::string& menu, int index = -1) const {
         return Window.MenuChecked(menu, index);
     }
@@ -90,15 +84,16 @@ class ProgramOptions : public ProgramFolderTest {
         EXPECT_NE(Prompts->boxes[0].text.find("No: " + std::to_string(number)), std::string::npos);
     }
 
+    Session session;
     FakeWindow Window;
 };
 
 TEST_F(ProgramOptions, EmptyFileGivesDefaultsAndSaveWritesAllKeys) {
     Read("");
-    const auto& v = *gViewOptions;
-    EXPECT_EQ(v.ComparisonMode, ModeVisual);
-    EXPECT_EQ(v.OutputFormat, OutputSideBySide);
-    EXPECT_EQ(v.ComparisonLevel, LevelCharacter);
+    const auto& v = session.ViewOptions;
+    EXPECT_EQ(v.ComparisonMode, ComparisonMode::Visual);
+    EXPECT_EQ(v.OutputFormat, OutputFormat::SideBySide);
+    EXPECT_EQ(v.ComparisonLevel, ComparisonLevel::Character);
     EXPECT_TRUE(v.ShowLineNumbers && v.ShowDialogueBeforeComparison &&
                 v.ShowInternetSourceReminder);
     EXPECT_FALSE(v.IgnoreCase || v.IgnoreWhiteSpace || v.IgnoreTextFormatting ||
@@ -115,7 +110,7 @@ TEST_F(ProgramOptions, EmptyFileGivesDefaultsAndSaveWritesAllKeys) {
         EXPECT_EQ(Window.Fonts[grid].Name, "Courier New");
         EXPECT_EQ(Window.Fonts[grid].Size, 8.0);
     }
-    EXPECT_EQ(gHTMLEditorFileSpec, "Notepad.exe");
+    EXPECT_EQ(session.HTMLEditorFileSpec, "Notepad.exe");
     EXPECT_TRUE(Prompts->boxes.empty());
     std::filesystem::remove(PathOf("orvane.ini"));
     Save();
@@ -126,34 +121,34 @@ TEST_F(ProgramOptions, EmptyFileGivesDefaultsAndSaveWritesAllKeys) {
 TEST_F(ProgramOptions, OnlyExactTrueIsTrue) {
     Read("[Compare]\r\nIgnoreCase=TRUE\r\nIgnoreWhiteSpace=True\r\nShowLineNumbers=true\r\n"
          "[Grids]\r\nShowGridLines=yes\r\nFontBold=True\r\n");
-    EXPECT_FALSE(gViewOptions->IgnoreCase);
-    EXPECT_TRUE(gViewOptions->IgnoreWhiteSpace);
+    EXPECT_FALSE(session.ViewOptions.IgnoreCase);
+    EXPECT_TRUE(session.ViewOptions.IgnoreWhiteSpace);
     EXPECT_TRUE(Checked("mnuOptionsIgnoreWhitespace"));
-    EXPECT_FALSE(gViewOptions->ShowLineNumbers);
+    EXPECT_FALSE(session.ViewOptions.ShowLineNumbers);
     EXPECT_FALSE(Checked("mnuOptionsShowLineNumbers"));
     EXPECT_EQ(Window.GridLines[kGrdRevisedFile], 0);
     EXPECT_TRUE(Window.Fonts[kGrdRevisedFile].Bold);
 }
 
 TEST_F(ProgramOptions, UnknownWordLeavesFieldAndChecksItsItem) {
-    gViewOptions->ComparisonLevel = LevelLine;
+    session.ViewOptions.ComparisonLevel = ComparisonLevel::Line;
     Window.SetMenuChecked("mnuOptionsComparisonModeOption", 2, true);
     Read("[Compare]\r\nComparisonMode=visual\r\nOutputFormat=OneWindow\r\nComparisonLevel=x\r\n");
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeVisual);
+    EXPECT_EQ(session.ViewOptions.ComparisonMode, ComparisonMode::Visual);
     EXPECT_TRUE(Checked("mnuOptionsComparisonModeOption", 0));
     EXPECT_TRUE(Checked("mnuOptionsComparisonModeOption", 2)); // never cleared
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
+    EXPECT_EQ(session.ViewOptions.OutputFormat, OutputFormat::OneWindow);
     EXPECT_TRUE(Checked("mnuOptionsOutputFormatOption", 0));
-    EXPECT_EQ(gViewOptions->ComparisonLevel, LevelLine);
+    EXPECT_EQ(session.ViewOptions.ComparisonLevel, ComparisonLevel::Line);
     EXPECT_TRUE(Checked("mnuOptionsDiffDetailOption", 2));
 }
 
 TEST_F(ProgramOptions, AnyOtherEnginePreferenceMeansWordFirst) {
     Read("[Text Extraction]\r\nExtractionEnginePrefs=internalmsword\r\n");
-    EXPECT_EQ(gExtractionOptions->EnginePreference, 1);
+    EXPECT_EQ(session.ExtractionOptions.EnginePreference, 1);
     Save();
     Read(ReadFile("orvane.ini"));
-    EXPECT_EQ(gExtractionOptions->EnginePreference, 1);
+    EXPECT_EQ(session.ExtractionOptions.EnginePreference, 1);
     EXPECT_TRUE(HasLine("ExtractionEnginePrefs=MSWordInternal"));
 }
 
@@ -162,18 +157,18 @@ TEST_F(ProgramOptions, LettersInWidthAreReportedAndTheLaterKeysStillRead) {
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordSaveAsFormat=5\r\n"
          "[Miscellaneous]\r\nHTMLEditorFileSpec=/usr/bin/gedit\r\n");
     ExpectReadFailure(err::TypeMismatch);
-    EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 79);
-    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 5);
-    EXPECT_EQ(gTextWithLayoutConverterPath,
+    EXPECT_EQ(session.ExtractionOptions.MaxNumCharsPerLine, 79);
+    EXPECT_EQ(session.ExtractionOptions.MSWordSaveAsFormat, 5);
+    EXPECT_EQ(session.TextWithLayoutConverterPath,
               "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
-    EXPECT_EQ(gHTMLEditorFileSpec, "/usr/bin/gedit");
+    EXPECT_EQ(session.HTMLEditorFileSpec, "/usr/bin/gedit");
 
     Prompts->boxes.clear();
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=wide\r\nMSWordMaxNumCharsPerLine=x\r\n"
          "MSWordSaveAsFormat=5\r\n");
     EXPECT_TRUE(Prompts->boxes.empty());
-    EXPECT_EQ(gExtractionOptions->MSWordMaxNumCharsPerLine, 79);
-    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 5);
+    EXPECT_EQ(session.ExtractionOptions.MSWordMaxNumCharsPerLine, 79);
+    EXPECT_EQ(session.ExtractionOptions.MSWordSaveAsFormat, 5);
 }
 
 // Two bad values give one box, not a cascade.
@@ -181,13 +176,13 @@ TEST_F(ProgramOptions, SeveralBadValuesGiveOneBox) {
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=1e30\r\nMSWordSaveAsFormat=1e30\r\n"
          "[Miscellaneous]\r\nHTMLEditorFileSpec=kate\r\n");
     EXPECT_EQ(Prompts->boxes.size(), 1u);
-    EXPECT_EQ(gHTMLEditorFileSpec, "kate");
+    EXPECT_EQ(session.HTMLEditorFileSpec, "kate");
 }
 
 TEST_F(ProgramOptions, WordWidthFollowsInternalWidth) {
     Read("[Text Extraction]\r\nMaxNumCharsPerLine=100\r\nMSWordMaxNumCharsPerLine=60\r\n");
-    EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 100);
-    EXPECT_EQ(gExtractionOptions->MSWordMaxNumCharsPerLine, 100);
+    EXPECT_EQ(session.ExtractionOptions.MaxNumCharsPerLine, 100);
+    EXPECT_EQ(session.ExtractionOptions.MSWordMaxNumCharsPerLine, 100);
     Save();
     EXPECT_TRUE(HasLine("MaxNumCharsPerLine=100"));
     EXPECT_TRUE(HasLine("MSWordMaxNumCharsPerLine=100"));
@@ -209,20 +204,20 @@ TEST_F(ProgramOptions, FontSizeIsLeadingNumber) {
 
 TEST_F(ProgramOptions, ForceTextCompareIsReadButNeverWritten) {
     Read("[Compare]\r\nForceTextCompare=True\r\n");
-    EXPECT_TRUE(gViewOptions->ForceTextCompare);
-    gViewOptions->ForceTextCompare = false;
+    EXPECT_TRUE(session.ViewOptions.ForceTextCompare);
+    session.ViewOptions.ForceTextCompare = false;
     for (int run = 0; run < 3; ++run) {
         Save();
         Read(ReadFile("orvane.ini"));
     }
-    EXPECT_TRUE(gViewOptions->ForceTextCompare);
+    EXPECT_TRUE(session.ViewOptions.ForceTextCompare);
     EXPECT_EQ(ReadFile("orvane.ini").find("[Compare]\r\nForceTextCompare=True\r\nIgnoreCase="), 0u);
 }
 
 TEST_F(ProgramOptions, ValueOutsideWordTableKeepsOldLine) {
     Read("[Compare]\r\nComparisonMode=Code\r\n");
-    gViewOptions->ComparisonMode = 9;
-    gViewOptions->ComparisonLevel = LevelWord;
+    session.ViewOptions.ComparisonMode = static_cast<ComparisonMode>(9);
+    session.ViewOptions.ComparisonLevel = ComparisonLevel::Word;
     Save();
     EXPECT_TRUE(HasLine("ComparisonMode=Code"));
     EXPECT_TRUE(HasLine("ComparisonLevel=Word"));
@@ -230,37 +225,36 @@ TEST_F(ProgramOptions, ValueOutsideWordTableKeepsOldLine) {
 
 TEST_F(ProgramOptions, SavedStateReadsBackTheSame) {
     Read("");
-    auto& v = *gViewOptions;
+    auto& v = session.ViewOptions;
     v.IgnoreCase = v.IgnoreTextFormatting = true;
     v.ShowInternetSourceReminder = false;
-    v.ComparisonMode = ModeText;
-    v.OutputFormat = OutputOneWindow;
-    v.ComparisonLevel = LevelLine;
-    auto& e = *gExtractionOptions;
+    v.ComparisonMode = ComparisonMode::Text;
+    v.OutputFormat = OutputFormat::OneWindow;
+    v.ComparisonLevel = ComparisonLevel::Line;
+    auto& e = session.ExtractionOptions;
     e = clsExtractionOptions{false, true, true, 66, true, 66, 7, 3};
-    gHTMLEditorFileSpec = "/usr/bin/editor with blanks";
-    gTextWithLayoutConverterPath = "";
+    session.HTMLEditorFileSpec = "/usr/bin/editor with blanks";
+    session.TextWithLayoutConverterPath = "";
     Window.SetMenuChecked("mnuOptionsShowGridLines", -1, false);
     Window.SetMenuChecked("mnuOptionsDisplayGridTooltips", -1, true);
     Window.Fonts[kGrdOriginalFile] = Font{"Liberation Mono", 10.25, true, true};
     Save();
 
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
+    session = Session{};
     Window = FakeWindow{};
-    modIniFile::ReadProgramOptionsFromIniFile(Window);
-    EXPECT_TRUE(gViewOptions->IgnoreCase && gViewOptions->IgnoreTextFormatting);
-    EXPECT_FALSE(gViewOptions->ShowInternetSourceReminder);
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeText);
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
-    EXPECT_EQ(gViewOptions->ComparisonLevel, LevelLine);
-    const auto& r = *gExtractionOptions;
+    modIniFile::ReadProgramOptionsFromIniFile(session, Window);
+    EXPECT_TRUE(session.ViewOptions.IgnoreCase && session.ViewOptions.IgnoreTextFormatting);
+    EXPECT_FALSE(session.ViewOptions.ShowInternetSourceReminder);
+    EXPECT_EQ(session.ViewOptions.ComparisonMode, ComparisonMode::Text);
+    EXPECT_EQ(session.ViewOptions.OutputFormat, OutputFormat::OneWindow);
+    EXPECT_EQ(session.ViewOptions.ComparisonLevel, ComparisonLevel::Line);
+    const auto& r = session.ExtractionOptions;
     EXPECT_EQ(std::tie(r.OriginalFormat, r.LimitLineLength, r.SingleLineParagraph,
                        r.MaxNumCharsPerLine, r.MSWordLimitLineLength, r.MSWordMaxNumCharsPerLine,
                        r.MSWordSaveAsFormat, r.EnginePreference),
               std::make_tuple(false, true, true, 66, true, 66, 7, 1));
-    EXPECT_EQ(gHTMLEditorFileSpec, "/usr/bin/editor with blanks");
-    EXPECT_EQ(gTextWithLayoutConverterPath,
+    EXPECT_EQ(session.HTMLEditorFileSpec, "/usr/bin/editor with blanks");
+    EXPECT_EQ(session.TextWithLayoutConverterPath,
               "C:\\Program Files\\Common Files\\Microsoft Shared\\TEXTCONV\\TXTLYT32.CNV");
     EXPECT_FALSE(Checked("mnuOptionsShowGridLines"));
     EXPECT_EQ(Window.GridLines[kGrdOriginalFile], 0);
@@ -291,9 +285,9 @@ class DyingWindow : public FakeWindow {
 
 TEST_F(ProgramOptions, ASaveIsOneRewriteOfTheWholeFile) {
     Read(kDefaultFile);
-    gViewOptions->IgnoreCase = true;
-    gExtractionOptions->MaxNumCharsPerLine = 100;
-    gHTMLEditorFileSpec = "kate";
+    session.ViewOptions.IgnoreCase = true;
+    session.ExtractionOptions.MaxNumCharsPerLine = 100;
+    session.HTMLEditorFileSpec = "kate";
     const std::size_t before = profile::RewriteCount(PathOf("orvane.ini"));
     Save();
     EXPECT_EQ(profile::RewriteCount(PathOf("orvane.ini")), before + 1);
@@ -304,14 +298,14 @@ TEST_F(ProgramOptions, ASaveIsOneRewriteOfTheWholeFile) {
 
 TEST_F(ProgramOptions, AKillDuringASaveLeavesTheOldFileWhole) {
     Read(kDefaultFile);
-    gViewOptions->IgnoreCase = true; // written before the kill, in the Compare section
-    gHTMLEditorFileSpec = "kate";    // written after it
+    session.ViewOptions.IgnoreCase = true; // written before the kill, in the Compare section
+    session.HTMLEditorFileSpec = "kate";   // written after it
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
         DyingWindow dying;
         dying.Fonts = Window.Fonts;
-        modIniFile::SaveProgramOptionsToIniFile(dying);
+        modIniFile::SaveProgramOptionsToIniFile(session, dying);
         _exit(0);
     }
     int status = 0;

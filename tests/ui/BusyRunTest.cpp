@@ -35,7 +35,7 @@ class BusyRun : public DriverTest {
         const char* tmp = std::getenv("TMPDIR");
         savedTmp_ = tmp ? tmp : "";
         ::setenv("TMPDIR", temp_.Path().c_str(), 1);
-        gViewOptions->ComparisonMode = ModeText;
+        session.ViewOptions.ComparisonMode = ComparisonMode::Text;
         window->resize(900, 600);
         window->show();
         window->activateWindow();
@@ -121,9 +121,9 @@ TEST_F(BusyRun, ClicksKeysAndCommandsDuringARunAreTurnedAway) {
     EXPECT_EQ(compares.count(), 0) << "the toolbar click or Ctrl+M got through";
     EXPECT_EQ(nexts.count(), 0) << "F7 got through";
     EXPECT_TRUE(dialogues.empty()) << dialogues.front();
-    EXPECT_FALSE(gViewOptions->IgnoreCase);
+    EXPECT_FALSE(session.ViewOptions.IgnoreCase);
     EXPECT_FALSE(Item("mnuOptionsIgnoreCase")->isChecked()) << "a check for a choice not taken";
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeText);
+    EXPECT_EQ(session.ViewOptions.ComparisonMode, ComparisonMode::Text);
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(Item("mnuOptionsComparisonModeOption", i)->isChecked(), modeChecks[i]) << i;
     EXPECT_TRUE(events_->boxes.empty()) << events_->boxes.front().title;

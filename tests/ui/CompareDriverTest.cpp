@@ -28,7 +28,7 @@ TEST_F(DriverTest, IdenticalFilesEndWithTheirMessage) {
 }
 
 TEST_F(DriverTest, IgnoreCaseMakesCaseOnlyChangesIdentical) {
-    gViewOptions->IgnoreCase = true;
+    session.ViewOptions.IgnoreCase = true;
     Compare(dir.Write("a.html", "<P>Hello</P>\n"), dir.Write("b.html", "<p>HELLO</p>\n"));
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].text, "The files are identical");
@@ -48,7 +48,7 @@ TEST_F(DriverTest, DifferencesFillTheGridsAndTheList) {
     EXPECT_EQ(window->OriginalGrid().RowPicture(1), CellPictureId::None);
     EXPECT_TRUE(window->OriginalGrid().Redraw());
     EXPECT_EQ(window->MousePointer(), PointerDefault);
-    EXPECT_EQ(gViewOptions->OriginalFile, dir.Path() + "a.html");
+    EXPECT_EQ(session.ViewOptions.OriginalFile, dir.Path() + "a.html");
 }
 
 TEST_F(DriverTest, ANewRunReplacesTheOldResults) {
@@ -70,7 +70,7 @@ TEST_F(DriverTest, BinaryFilesAreNotShown) {
 }
 
 TEST_F(DriverTest, ForceTextShowsFilesWithNulBytes) {
-    gViewOptions->ForceTextCompare = true;
+    session.ViewOptions.ForceTextCompare = true;
     Compare(dir.Write("a.html", std::string("a\0b\nsame\n", 9)),
             dir.Write("b.html", std::string("a\0c\nsame\n", 9)));
     EXPECT_TRUE(prompter->boxes.empty());
@@ -87,9 +87,9 @@ TEST_F(DriverTest, AnUnknownFormatStopsTheRun) {
 }
 
 TEST_F(DriverTest, AnUnreachableAddressIsADownloadFailure) {
-    gViewOptions->RunFromCommandLine = true;
+    session.ViewOptions.RunFromCommandLine = true;
     Compare("http://127.0.0.1:9/page.html", dir.Write("b.html", "x\n"));
-    EXPECT_EQ(gViewOptions->CommandLineMessage,
+    EXPECT_EQ(session.ViewOptions.CommandLineMessage,
               "Web Page Download failure.  Original Web page was NOT downloaded successfully"
               "\r\n\r\nMake sure that you are connected to the Internet\r\nand that the web "
               "page exists.");
@@ -99,14 +99,14 @@ TEST_F(DriverTest, AFileAddressIsFetchedComparedAndItsCopyRemoved) {
     const std::string a = dir.Write("a.html", "1\n2\n");
     Compare("file://" + a, dir.Write("b.html", "1\n3\n"));
     EXPECT_EQ(window->Diffs(), (DiffList{{2, 1, DiffKind::Changed}}));
-    EXPECT_FALSE(gViewOptions->OriginalDownloadFile.empty());
+    EXPECT_FALSE(session.ViewOptions.OriginalDownloadFile.empty());
     EXPECT_FALSE(
-        std::filesystem::exists(gViewOptions->OriginalDownloadFile)); // the exit's clean-up
+        std::filesystem::exists(session.ViewOptions.OriginalDownloadFile)); // the exit's clean-up
 }
 
 TEST_F(DriverTest, CommandLineWithTwoFilesComparesAtLoad) {
     const std::string a = dir.Write("a.html", "1\n"), b = dir.Write("b.html", "2\n");
-    frmFileDiffs second;
+    frmFileDiffs second(session, *fileDiff);
     int dialogues = 0;
     second.ShowModal = [&](QDialog& d) { ++dialogues, d.accept(); };
     second.Form_Load("\"" + a + "\" \"" + b + "\"");
@@ -117,7 +117,7 @@ TEST_F(DriverTest, CommandLineWithTwoFilesComparesAtLoad) {
 
 TEST_F(DriverTest, FirstRunOpensTheWelcomePage) {
     gAppPath = dir.Path(); // no settings file here
-    frmFileDiffs second;
+    frmFileDiffs second(session, *fileDiff);
     second.Form_Load("");
     EXPECT_EQ(prompter->helpContexts, std::vector<int>{7});
 }

@@ -17,9 +17,9 @@ namespace {
 using DialogsTest = DriverTest;
 
 TEST_F(DialogsTest, WhatAndHowKeepsVisualAspectInOneWindow) {
-    gViewOptions->ComparisonMode = ModeVisual;
-    gViewOptions->OutputFormat = OutputSideBySide;
-    frmWhatAndHow d;
+    session.ViewOptions.ComparisonMode = ComparisonMode::Visual;
+    session.ViewOptions.OutputFormat = OutputFormat::SideBySide;
+    frmWhatAndHow d(session.ViewOptions);
     EXPECT_TRUE(d.OutputFormatOption(0)->isChecked());
     EXPECT_FALSE(d.OutputFormatOption(1)->isEnabled());
     d.ComparisonModeOption(1)->click(); // enables two windows without choosing it
@@ -32,16 +32,16 @@ TEST_F(DialogsTest, WhatAndHowKeepsVisualAspectInOneWindow) {
     d.OutputFormatOption(1)->click();
     d.ShowDialogueBox()->setChecked(false);
     d.OKButton_Click();
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeText);
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputSideBySide);
-    EXPECT_FALSE(gViewOptions->ShowDialogueBeforeComparison);
+    EXPECT_EQ(session.ViewOptions.ComparisonMode, ComparisonMode::Text);
+    EXPECT_EQ(session.ViewOptions.OutputFormat, OutputFormat::SideBySide);
+    EXPECT_FALSE(session.ViewOptions.ShowDialogueBeforeComparison);
     EXPECT_TRUE(d.ComparisonModeOption(0)->isEnabled());
     EXPECT_TRUE(d.OutputFormatOption(0)->isEnabled());
 }
 
 TEST_F(DialogsTest, TheSecondGuardOfTheOutputChoice) {
-    gViewOptions->ComparisonMode = ModeVisual;
-    frmWhatAndHow d;
+    session.ViewOptions.ComparisonMode = ComparisonMode::Visual;
+    frmWhatAndHow d(session.ViewOptions);
     d.optOutputFormats_Click(1);
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Visual Aspect");
@@ -49,7 +49,7 @@ TEST_F(DialogsTest, TheSecondGuardOfTheOutputChoice) {
 }
 
 TEST_F(DialogsTest, CompareOffersTheDialogueAndMovesTheChecks) {
-    gViewOptions->ShowDialogueBeforeComparison = true;
+    session.ViewOptions.ShowDialogueBeforeComparison = true;
     window->ShowModal = [](QDialog& d) {
         auto& w = static_cast<frmWhatAndHow&>(d);
         w.ComparisonModeOption(1)->click();
@@ -67,7 +67,7 @@ TEST_F(DialogsTest, CompareOffersTheDialogueAndMovesTheChecks) {
 class NumberChecks : public DriverTest {
   protected:
     frmTextExtractionOptions& Dialog() {
-        if (!dialog) dialog = std::make_unique<frmTextExtractionOptions>();
+        if (!dialog) dialog = std::make_unique<frmTextExtractionOptions>(session.ExtractionOptions);
         return *dialog;
     }
     template <typename W> W* Get(const char* name) {
@@ -77,7 +77,7 @@ class NumberChecks : public DriverTest {
 };
 
 TEST_F(NumberChecks, ThreeStepsAndTheFirstFailureEndsTheClick) {
-    gExtractionOptions->OriginalFormat = false;
+    session.ExtractionOptions.OriginalFormat = false;
     Get<QRadioButton>("optFormatting(1)")->click();
     Get<QCheckBox>("chkFixedLineWidth")->click();
     EXPECT_EQ(Get<QLineEdit>("txtNumChars")->text(), "79");
@@ -91,54 +91,54 @@ TEST_F(NumberChecks, ThreeStepsAndTheFirstFailureEndsTheClick) {
         EXPECT_EQ(prompter->boxes.back().text, message) << text;
         EXPECT_EQ(prompter->boxes.back().title, "Invalid Number of Chars");
     }
-    EXPECT_FALSE(gExtractionOptions->LimitLineLength); // nothing written yet
+    EXPECT_FALSE(session.ExtractionOptions.LimitLineLength); // nothing written yet
     Get<QLineEdit>("txtNumChars")->setText("1e2");
     Get<QCheckBox>("chkSingleLineParagraph")->click();
     Get<QComboBox>("cboSaveAsFormats")->setCurrentIndex(4);
     Dialog().cmdOK_Click();
-    EXPECT_TRUE(gExtractionOptions->LimitLineLength);
-    EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 100);
-    EXPECT_TRUE(gExtractionOptions->SingleLineParagraph);
-    EXPECT_EQ(gExtractionOptions->MSWordSaveAsFormat, 7);
+    EXPECT_TRUE(session.ExtractionOptions.LimitLineLength);
+    EXPECT_EQ(session.ExtractionOptions.MaxNumCharsPerLine, 100);
+    EXPECT_TRUE(session.ExtractionOptions.SingleLineParagraph);
+    EXPECT_EQ(session.ExtractionOptions.MSWordSaveAsFormat, 7);
 }
 
 TEST_F(NumberChecks, RetainOriginalFormattingTurnsTheCustomOptionsOff) {
-    gExtractionOptions->OriginalFormat = false;
-    gExtractionOptions->LimitLineLength = true;
-    gExtractionOptions->MaxNumCharsPerLine = 60;
+    session.ExtractionOptions.OriginalFormat = false;
+    session.ExtractionOptions.LimitLineLength = true;
+    session.ExtractionOptions.MaxNumCharsPerLine = 60;
     EXPECT_EQ(Get<QLineEdit>("txtNumChars")->text(), "60");
     Get<QLineEdit>("txtNumChars")->setText("bad");
     Get<QRadioButton>("optFormatting(0)")->click(); // unchecks Fixed Line Width: no check
     Dialog().cmdOK_Click();
     EXPECT_TRUE(prompter->boxes.empty());
-    EXPECT_TRUE(gExtractionOptions->OriginalFormat);
-    EXPECT_FALSE(gExtractionOptions->LimitLineLength);
-    EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 60);
+    EXPECT_TRUE(session.ExtractionOptions.OriginalFormat);
+    EXPECT_FALSE(session.ExtractionOptions.LimitLineLength);
+    EXPECT_EQ(session.ExtractionOptions.MaxNumCharsPerLine, 60);
 }
 
 TEST_F(DialogsTest, HTMLEditorFallsBackToNotepadOnlyWhenEmpty) {
-    gHTMLEditorFileSpec = "/usr/bin/true";
+    session.HTMLEditorFileSpec = "/usr/bin/true";
     {
-        frmHTMLEditor d;
+        frmHTMLEditor d(session.HTMLEditorFileSpec);
         EXPECT_EQ(d.FileSpecBox()->text(), "/usr/bin/true");
         d.FileSpecBox()->setText("   ");
         d.OKButton_Click();
-        EXPECT_EQ(gHTMLEditorFileSpec, "Notepad.exe");
+        EXPECT_EQ(session.HTMLEditorFileSpec, "Notepad.exe");
     }
     {
-        frmHTMLEditor d;
+        frmHTMLEditor d(session.HTMLEditorFileSpec);
         d.FileSpecBox()->setText("notepad.exe"); // not the special word: looked up, refused
         d.OKButton_Click();
         ASSERT_EQ(prompter->boxes.size(), 1u);
         EXPECT_EQ(prompter->boxes[0].text, "The file does not exist. Notepad will be used.");
-        EXPECT_EQ(gHTMLEditorFileSpec, "Notepad.exe"); // the old editor stays
+        EXPECT_EQ(session.HTMLEditorFileSpec, "Notepad.exe"); // the old editor stays
     }
     {
-        frmHTMLEditor d;
+        frmHTMLEditor d(session.HTMLEditorFileSpec);
         prompter->files.push_back("/usr/bin/env");
         d.cmdSelectHTMLEditor_Click();
         d.OKButton_Click();
-        EXPECT_EQ(gHTMLEditorFileSpec, "/usr/bin/env");
+        EXPECT_EQ(session.HTMLEditorFileSpec, "/usr/bin/env");
     }
 }
 

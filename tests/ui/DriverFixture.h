@@ -4,9 +4,7 @@
 #include "frame/EngineLibraries.h"
 #include "frame/ProgramFolder.h"
 #include "results/frmFileDiffs.h"
-#include "settings/ExtractionOptions.h"
 #include "settings/Session.h"
-#include "settings/ViewOptions.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
@@ -27,16 +25,14 @@ class DriverTest : public ::testing::Test {
   protected:
     void SetUp() override {
         gAppPath = ORVANE_BIN_DIR;
-        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-        gViewOptions->OutputFormat = OutputSideBySide;
-        gViewOptions->ComparisonMode = ModeCode;
-        gFileDiff = std::make_unique<FileDiffEngine>();
-        gExtractionOptions = std::make_unique<clsExtractionOptions>();
+        session.ViewOptions.OutputFormat = OutputFormat::SideBySide;
+        session.ViewOptions.ComparisonMode = ComparisonMode::Code;
+        fileDiff = std::make_unique<FileDiffEngine>();
         // Engines come from the build; settings and error files go to a folder of our own.
         for (Engine e : {Engine::KWCommon, Engine::DetFile, Engine::Detagger, Engine::DocTxt})
             LoadEngine(e, ORVANE_BIN_DIR);
         gAppPath = dir.Path();
-        window = std::make_unique<frmFileDiffs>();
+        window = std::make_unique<frmFileDiffs>(session, *fileDiff);
         window->ShowModal = [this](QDialog& d) {
             dialogues.push_back(d.objectName().toStdString());
         };
@@ -46,9 +42,7 @@ class DriverTest : public ::testing::Test {
     }
     void TearDown() override {
         window.reset();
-        gViewOptions.reset();
-        gFileDiff.reset();
-        gExtractionOptions.reset();
+        fileDiff.reset();
     }
 
     void Compare(const std::string& original, const std::string& revised) {
@@ -61,6 +55,8 @@ class DriverTest : public ::testing::Test {
 
     TempDir dir;
     ScopedRecordingPrompter prompter;
+    Session session;
+    std::unique_ptr<FileDiffEngine> fileDiff;
     std::unique_ptr<frmFileDiffs> window;
     std::vector<std::string> dialogues; // object names of the dialogues shown
 };

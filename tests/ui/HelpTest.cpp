@@ -114,14 +114,14 @@ TEST_F(HelpWindow, TheProgramsPrompterOpensTheHelpWindow) {
 
 TEST_F(DriverTest, WelcomeShowsOnlyWhenTheSettingsFileIsMissingAndNeverUnattended) {
     {
-        frmFileDiffs first; // gAppPath is a fresh folder: no settings file
+        frmFileDiffs first(session, *fileDiff); // gAppPath is a fresh folder: no settings file
         first.Form_Load("");
     }
     EXPECT_EQ(prompter->helpContexts, std::vector<int>{7});
     prompter->helpContexts.clear();
     const std::string a = dir.Write("a.html", "1\n"), b = dir.Write("b.html", "2\n");
     {
-        frmFileDiffs unattended;
+        frmFileDiffs unattended(session, *fileDiff);
         unattended.ShowModal = [](QDialog& d) { d.accept(); };
         unattended.Form_Load("\"" + a + "\" \"" + b + "\" \"" + dir.Path() + "r.html\"");
     }
@@ -129,7 +129,7 @@ TEST_F(DriverTest, WelcomeShowsOnlyWhenTheSettingsFileIsMissingAndNeverUnattende
     dir.Write("orvane.ini", "[Compare]\n");
     SetProgramIniFileName("orvane.ini");
     {
-        frmFileDiffs later;
+        frmFileDiffs later(session, *fileDiff);
         later.Form_Load("");
     }
     SetProgramIniFileName("");

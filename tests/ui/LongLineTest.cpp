@@ -41,8 +41,8 @@ class LongLineTest : public DriverTest {
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     }
     // Row 2 is the long pair; its ends differ ("old"/"new" ahead, "1"/"2" behind).
-    void ComparePair(int level) {
-        gViewOptions->ComparisonLevel = level;
+    void ComparePair(ComparisonLevel level) {
+        session.ViewOptions.ComparisonLevel = level;
         original = "<p>old</p>" + Middle() + "<b>end1</b>";
         revised = "<p>new</p>" + Middle() + "<b>end2</b>";
         Compare(dir.Write("a.html", "same\n" + original + "\nsame\n"),
@@ -66,7 +66,7 @@ class LongLineTest : public DriverTest {
 };
 
 TEST_F(LongLineTest, CharacterLevelMarksBothEndsOfTheWholeLine) {
-    ComparePair(LevelCharacter);
+    ComparePair(ComparisonLevel::Character);
     for (int side : {0, 1}) {
         SCOPED_TRACE(side);
         LineDetailView& box = Box(side);
@@ -92,8 +92,8 @@ TEST_F(LongLineTest, CharacterLevelMarksBothEndsOfTheWholeLine) {
 }
 
 TEST_F(LongLineTest, LineAndWordLevelsPaintTheWholeLineRed) {
-    for (int level : {LevelLine, LevelWord}) {
-        SCOPED_TRACE(level);
+    for (ComparisonLevel level : {ComparisonLevel::Line, ComparisonLevel::Word}) {
+        SCOPED_TRACE(ChoiceIndex(level));
         ComparePair(level);
         LineDetailView& box = Box(0);
         ASSERT_EQ(box.Text().size(), static_cast<qsizetype>(original.size()));
@@ -105,7 +105,7 @@ TEST_F(LongLineTest, LineAndWordLevelsPaintTheWholeLineRed) {
 }
 
 TEST_F(LongLineTest, ACellDrawsWhatFitsWhileFindSeesTheWholeLine) {
-    ComparePair(LevelCharacter);
+    ComparePair(ComparisonLevel::Character);
     QAbstractItemModel* model = window->GridView(Side::Original)->model();
     const QString shown = model->data(model->index(1, 0)).toString();
     EXPECT_TRUE(window->OriginalGrid().RowText(2).starts_with(shown.toStdString()));

@@ -128,7 +128,7 @@ TEST_F(LooksTest, TheDetailPromptIsBlackUnderADarkTheme) {
 
 // The design size of 10290 by 6630 twips follows the screen's resolution, centred.
 TEST_F(DriverTest, WindowOpensAtItsDesignSizeCentred) {
-    frmFileDiffs fresh;
+    frmFileDiffs fresh(session, *fileDiff);
     const double perTwip = fresh.logicalDpiX() / 1440.0;
     EXPECT_NEAR(fresh.width(), 10290 * perTwip, 1);
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();

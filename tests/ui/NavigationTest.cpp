@@ -108,29 +108,29 @@ std::string RedMap(const LineDetailView& box) {
 
 class DetailLevels : public DriverTest {
   protected:
-    void ShowPair(const std::string& a, const std::string& b, int level) {
-        gViewOptions->ComparisonLevel = level;
+    void ShowPair(const std::string& a, const std::string& b, ComparisonLevel level) {
+        session.ViewOptions.ComparisonLevel = level;
         Compare(dir.Write("a.html", "same\n" + a + "\n"), dir.Write("b.html", "same\n" + b + "\n"));
     }
     std::string Text(int box) { return window->DetailBox(box)->Text().toStdString(); }
 };
 
 TEST_F(DetailLevels, CharacterLevelPaintsOnlyWhatDiffers) {
-    ShowPair("<td>7:00 - 18:00</td>", "<td>7:00 - 19:00</td>", LevelCharacter);
+    ShowPair("<td>7:00 - 18:00</td>", "<td>7:00 - 19:00</td>", ComparisonLevel::Character);
     EXPECT_EQ(Text(0), "<td>7:00 - 18:00</td>");
     EXPECT_EQ(RedMap(*window->DetailBox(0)), "............1........");
     EXPECT_EQ(RedMap(*window->DetailBox(1)), "............1........");
 }
 
 TEST_F(DetailLevels, WordLevelJoinsWordsAndRunsTakeTheBlankAhead) {
-    ShowPair("the  quick brown fox", "the slow brown dog", LevelWord);
+    ShowPair("the  quick brown fox", "the slow brown dog", ComparisonLevel::Word);
     EXPECT_EQ(Text(0), "the quick brown fox");
     EXPECT_EQ(RedMap(*window->DetailBox(0)), "...111111......1111");
     EXPECT_EQ(Text(1), "the slow brown dog");
 }
 
 TEST_F(DetailLevels, LineLevelIsAllRedAndASameRowAllBlack) {
-    ShowPair("abc", "abd", LevelLine);
+    ShowPair("abc", "abd", ComparisonLevel::Line);
     EXPECT_EQ(RedMap(*window->DetailBox(0)), "111");
     window->OriginalGrid().SetRow(1);
     window->Grid_Click(Side::Original);

@@ -3,10 +3,8 @@
 #include "compare/FileDiffEngine.h"
 #include "frame/ProgramFolder.h"
 #include "results/frmFileDiffs.h"
-#include "settings/ExtractionOptions.h"
 #include "settings/IniFileName.h"
 #include "settings/Session.h"
-#include "settings/ViewOptions.h"
 #include "support/RecordingPrompter.h"
 #include "support/TempDir.h"
 
@@ -20,17 +18,12 @@ namespace {
 class BadFontSize : public ::testing::TestWithParam<const char*> {
   protected:
     void SetUp() override {
+        gAppPath = ORVANE_BIN_DIR; // the line differ from the build, the settings file in dir
+        fileDiff = std::make_unique<FileDiffEngine>();
         gAppPath = dir.Path();
         SetProgramIniFileName("orvane.ini");
-        gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-        gExtractionOptions = std::make_unique<clsExtractionOptions>();
-        gHTMLEditorFileSpec.clear();
     }
-    void TearDown() override {
-        gViewOptions.reset();
-        gExtractionOptions.reset();
-        SetProgramIniFileName("");
-    }
+    void TearDown() override { SetProgramIniFileName(""); }
     std::string Ini() const {
         std::ifstream in(dir.Path() + "orvane.ini", std::ios::binary);
         std::ostringstream s;
@@ -40,6 +33,8 @@ class BadFontSize : public ::testing::TestWithParam<const char*> {
 
     TempDir dir;
     ScopedRecordingPrompter prompter;
+    Session session;
+    std::unique_ptr<FileDiffEngine> fileDiff;
 };
 
 TEST_P(BadFontSize, ShowsTheBoxAndKeepsTheOtherSettings) {
@@ -50,14 +45,14 @@ TEST_P(BadFontSize, ShowsTheBoxAndKeepsTheOtherSettings) {
                                 "MaxNumCharsPerLine=120\r\n"
                                 "[Miscellaneous]\r\nHTMLEditorFileSpec=/usr/bin/gedit\r\n");
     {
-        frmFileDiffs window;
+        frmFileDiffs window(session, *fileDiff);
         window.Form_Load("");
         ASSERT_EQ(prompter->boxes.size(), 1u);
         EXPECT_EQ(prompter->boxes[0].title,
                   "Unexpected Error in modIniFile.ReadProgramOptionsFromIniFile");
-        EXPECT_TRUE(gExtractionOptions->LimitLineLength);
-        EXPECT_EQ(gExtractionOptions->MaxNumCharsPerLine, 120);
-        EXPECT_EQ(gHTMLEditorFileSpec, "/usr/bin/gedit");
+        EXPECT_TRUE(session.ExtractionOptions.LimitLineLength);
+        EXPECT_EQ(session.ExtractionOptions.MaxNumCharsPerLine, 120);
+        EXPECT_EQ(session.HTMLEditorFileSpec, "/usr/bin/gedit");
         window.close(); // the quit saves the options
     }
     const std::string ini = Ini();

@@ -13,7 +13,7 @@ class TextModeTest : public DriverTest {
   protected:
     void SetUp() override {
         DriverTest::SetUp();
-        gViewOptions->ComparisonMode = ModeText;
+        session.ViewOptions.ComparisonMode = ComparisonMode::Text;
     }
 };
 
@@ -35,8 +35,8 @@ TEST_F(TextModeTest, TheTextIsComparedAndItsFilesRemoved) {
     EXPECT_TRUE(sawCakes);
     for (long r = 1; r < window->RevisedGrid().Rows(); ++r)
         EXPECT_EQ(window->RevisedGrid().RowText(r).find("<p>"), std::string::npos);
-    EXPECT_TRUE(gViewOptions->RevisedTextExtracted);
-    EXPECT_FALSE(std::filesystem::exists(gViewOptions->RevisedTextFile));
+    EXPECT_TRUE(session.ViewOptions.RevisedTextExtracted);
+    EXPECT_FALSE(std::filesystem::exists(session.ViewOptions.RevisedTextFile));
 }
 
 TEST_F(TextModeTest, OnlyPagesAndTextCanGiveText) {
@@ -51,7 +51,7 @@ TEST_F(TextModeTest, OnlyPagesAndTextCanGiveText) {
 TEST_F(TextModeTest, TheOfficeSuiteFirstFailsAsOnAMachineWithoutIt) {
     TempDir noSuite;
     ScopedPath path(noSuite.Path());
-    gExtractionOptions->EnginePreference = 1;
+    session.ExtractionOptions.EnginePreference = 1;
     Compare(dir.Write("a.html", "<p>a</p>"), dir.Write("b.html", "<p>b</p>"));
     ASSERT_EQ(prompter->boxes.size(), 2u);
     EXPECT_EQ(prompter->boxes[0].title,
@@ -62,7 +62,7 @@ TEST_F(TextModeTest, TheOfficeSuiteFirstFailsAsOnAMachineWithoutIt) {
 
 TEST_F(TextModeTest, TheOfficeSuiteFirstComparesWhatThePagesSay) {
     ASSERT_FALSE(RealSuite().empty());
-    gExtractionOptions->EnginePreference = 1;
+    session.ExtractionOptions.EnginePreference = 1;
     Compare(dir.Write("a.html", "<h1>Menu</h1><p>Bread<br>Rolls</p>"),
             dir.Write("b.html", "<h1>Menu</h1><p>Bread<br>Cakes</p>"));
     EXPECT_TRUE(prompter->boxes.empty());
@@ -82,7 +82,7 @@ TEST_F(TextModeTest, ADocxIsRefusedWithoutStartingTheSuite) {
     TempDir fakes;
     WriteFakeSuite(fakes, "echo run > " + fakes.Path() + "started\n");
     ScopedPath path(fakes.Path());
-    gExtractionOptions->EnginePreference = 1;
+    session.ExtractionOptions.EnginePreference = 1;
     ZipBuilder docx;
     docx.Add("[Content_Types].xml", "<Types/>");
     docx.Add("word/document.xml", "<w:document/>");

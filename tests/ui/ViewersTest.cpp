@@ -56,7 +56,7 @@ TEST_F(ViewersTest, TextContentShowsThePagesTextInTheTextEditor) {
 }
 
 TEST_F(ViewersTest, SourceGoesToTheChosenEditorAsItsOneArgument) {
-    gHTMLEditorFileSpec = script;
+    session.HTMLEditorFileSpec = script;
     Box(Side::Original, dir.Write("it's \"quoted\".html", "<p>source</p>"));
     window->ViewSourceCode(Side::Original);
     EXPECT_EQ(Seen(), "<p>source</p>");
@@ -77,12 +77,12 @@ TEST_F(ViewersTest, RefusalsAtTheCommonEntry) {
 }
 
 TEST_F(ViewersTest, AWebPageSourceComesWithTheReminderUnlessItIsOff) {
-    gHTMLEditorFileSpec = script;
+    session.HTMLEditorFileSpec = script;
     Box(Side::Original, "file://" + dir.Write("remote.html", "<p>page</p>"));
     window->ViewSourceCode(Side::Original);
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Internet Source Reminder");
-    gViewOptions->ShowInternetSourceReminder = false;
+    session.ViewOptions.ShowInternetSourceReminder = false;
     window->ViewSourceCode(Side::Original);
     EXPECT_EQ(prompter->boxes.size(), 1u);
 }

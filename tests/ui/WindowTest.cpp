@@ -117,8 +117,8 @@ TEST_F(WindowTest, OptionsAreSavedWhenTheWindowCloses) {
     SetProgramIniFileName("window-test.ini");
     Item("mnuOptionsIgnoreCase")->trigger();
     Item("mnuOptionsShowLineNumbers")->trigger();
-    EXPECT_TRUE(gViewOptions->IgnoreCase);
-    EXPECT_FALSE(gViewOptions->ShowLineNumbers);
+    EXPECT_TRUE(session.ViewOptions.IgnoreCase);
+    EXPECT_FALSE(session.ViewOptions.ShowLineNumbers);
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Show Line Numbers");
     window->close();
@@ -128,8 +128,6 @@ TEST_F(WindowTest, OptionsAreSavedWhenTheWindowCloses) {
     EXPECT_NE(text.str().find("IgnoreCase=True"), std::string::npos) << text.str();
     EXPECT_NE(text.str().find("ShowLineNumbers=False"), std::string::npos);
     SetProgramIniFileName("");
-    // The session's options outlive the window: a run still unwinding from a fill reads them.
-    EXPECT_TRUE(gViewOptions);
 }
 
 TEST_F(WindowTest, VisualAspectPushesTheOutputToOneWindow) {
@@ -138,15 +136,15 @@ TEST_F(WindowTest, VisualAspectPushesTheOutputToOneWindow) {
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "File Does Not Exist");
     prompter->boxes.clear();
-    window->ComparisonModeOption(ModeVisual);
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
+    window->ComparisonModeOption(ChoiceIndex(ComparisonMode::Visual));
+    EXPECT_EQ(session.ViewOptions.OutputFormat, OutputFormat::OneWindow);
     EXPECT_TRUE(Item("mnuOptionsOutputFormatOption", 0)->isChecked());
     EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
     prompter->boxes.clear();
-    window->OutputFormatOption(OutputSideBySide);
+    window->OutputFormatOption(ChoiceIndex(OutputFormat::SideBySide));
     ASSERT_EQ(prompter->boxes.size(), 1u);
     EXPECT_EQ(prompter->boxes[0].title, "Side by Side Not Supported");
-    EXPECT_EQ(gViewOptions->OutputFormat, OutputOneWindow);
+    EXPECT_EQ(session.ViewOptions.OutputFormat, OutputFormat::OneWindow);
     EXPECT_FALSE(Item("mnuOptionsOutputFormatOption", 1)->isChecked());
 }
 
@@ -154,7 +152,7 @@ TEST_F(WindowTest, VisualAspectPushesTheOutputToOneWindow) {
 TEST_F(WindowTest, VisualAspectAndOneWindowAreOfferedAndKept) {
     EXPECT_TRUE(Item("mnuOptionsComparisonModeOption", 0)->isEnabled());
     EXPECT_TRUE(Item("mnuOptionsOutputFormatOption", 0)->isEnabled());
-    EXPECT_EQ(gViewOptions->ComparisonMode, ModeVisual); // the first-run default
+    EXPECT_EQ(session.ViewOptions.ComparisonMode, ComparisonMode::Visual); // the first-run default
     EXPECT_TRUE(Item("mnuOptionsComparisonModeOption", 0)->isChecked());
 }
 
@@ -171,7 +169,7 @@ TEST_F(DriverTest, AGoodComparisonIsOfferedAgainInTheFileBoxes) {
     EXPECT_EQ(window->OriginalFileBox()->count(), 1);
     EXPECT_EQ(window->OriginalFileBox()->itemText(0).toStdString(), a);
     EXPECT_EQ(window->RevisedFileBox()->itemText(0).toStdString(), b);
-    frmFileDiffs next; // a later start finds them in the settings file
+    frmFileDiffs next(session, *fileDiff); // a later start finds them in the settings file
     next.Form_Load("");
     EXPECT_EQ(next.OriginalFileBox()->currentText().toStdString(), a);
     Compare(a, a); // identical: nothing is recorded

@@ -29,14 +29,13 @@ int main(int argc, char* argv[]) {
     const bool visual = argc >= 7 && std::string(argv[6]) == "visual";
     using namespace orvane;
     gAppPath = AddTrailingBackslash(QApplication::applicationDirPath().toStdString());
-    gViewOptions = std::make_unique<cViewFileDiffsOptions>();
-    gFileDiff = std::make_unique<FileDiffEngine>();
-    gExtractionOptions = std::make_unique<clsExtractionOptions>();
-    frmFileDiffs window;
+    Session session;
+    FileDiffEngine fileDiff;
+    frmFileDiffs window(session, fileDiff);
     window.Form_Load("");
     window.show();
-    gViewOptions->OutputFormat = visual ? OutputOneWindow : OutputSideBySide;
-    if (visual) gViewOptions->ComparisonMode = ModeVisual;
+    session.ViewOptions.OutputFormat = visual ? OutputFormat::OneWindow : OutputFormat::SideBySide;
+    if (visual) session.ViewOptions.ComparisonMode = ComparisonMode::Visual;
     if (argc >= 6) window.resize(std::atoi(argv[4]), std::atoi(argv[5]));
     QApplication::processEvents();
     // Drag the splitter to the middle, as a user with a wide window would.
