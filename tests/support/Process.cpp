@@ -1,12 +1,14 @@
 #include "support/Process.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <fcntl.h>
+#include <optional>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 extern char** environ;
@@ -22,14 +24,29 @@ std::vector<char*> Pointers(std::vector<std::string>& strings) {
     return pointers;
 }
 
-// Both pipes at once: a child that fills one while we wait on the other would never end.
-void ReadBoth(int outFd, int errFd, std::string& out, std::string& err) {
+// Both pipes at once: a child that fills one while we wait on the other would never end. At
+// `terminateAt` (if set) the child is sent SIGTERM once; reading goes on until it has gone.
+void ReadBoth(int outFd, int errFd, std::string& out, std::string& err, pid_t pid,
+              std::optional<std::chrono::steady_clock::time_point> terminateAt) {
     pollfd fds[2] = {{outFd, POLLIN, 0}, {errFd, POLLIN, 0}};
     std::string* sinks[2] = {&out, &err};
     int open = 2;
     char buf[65536];
-    while (open > 0 && ::poll(fds, 2, -1) >= 0) {
-        for (int i = 0; i < 2; ++i) {
+    while (open > 0) {
+        int timeout = -1;
+        if (terminateAt) {
+            const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
+                *terminateAt - std::chrono::steady_clock::now());
+            timeout = static_cast<int>(std::max<long long>(0, left.count()));
+        }
+        const int ready = ::poll(fds, 2, timeout);
+        if (ready < 0 && errno != EINTR) break;
+        if (ready == 0 && terminateAt) {
+            ::kill(pid, SIGTERM); // not reaped yet, so the pid is still the child's
+            terminateAt.reset();
+            continue;
+        }
+        for (int i = 0; i < 2 && ready > 0; ++i) {
             if (fds[i].fd < 0 || fds[i].revents == 0) continue;
             const ssize_t n = ::read(fds[i].fd, buf, sizeof buf);
             if (n > 0) {
@@ -75,15 +92,11 @@ ProgramRun RunProgram(std::vector<std::string> args, const std::vector<std::stri
         ::close(err[0]);
         return run;
     }
-    // The child is reaped only after this thread is done, so its pid cannot have been reused.
-    std::thread terminator;
+    std::optional<std::chrono::steady_clock::time_point> terminateAt;
     if (terminateAfterMs > 0)
-        terminator = std::thread([pid, terminateAfterMs] {
-            std::this_thread::sleep_for(std::chrono::milliseconds(terminateAfterMs));
-            ::kill(pid, SIGTERM);
-        });
-    ReadBoth(out[0], err[0], run.out, run.err);
-    if (terminator.joinable()) terminator.join();
+        terminateAt =
+            std::chrono::steady_clock::now() + std::chrono::milliseconds(terminateAfterMs);
+    ReadBoth(out[0], err[0], run.out, run.err, pid, terminateAt);
     int status = 0;
     ::waitpid(pid, &status, 0);
     run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
