@@ -93,7 +93,7 @@ QAction* Commands::Button(int place) const {
 void Commands::On(const QString& name, std::function<void()> fn, int index) {
     QAction* item = Item(name, index);
     if (!item) return;
-    connect(item, &QAction::triggered, this, [this, item, fn = std::move(fn)] {
+    Attach(name, *item, [this, item, fn = std::move(fn)] {
         if (gate_.Busy()) {
             // Turned away: a checkable item must not show a choice that was not taken.
             if (item->isCheckable()) item->setChecked(!item->isChecked());
@@ -102,15 +102,15 @@ void Commands::On(const QString& name, std::function<void()> fn, int index) {
         RunGate::Hold run(gate_);
         fn();
     });
-    item->setEnabled(true);
-    handled_.insert(name);
 }
 
 void Commands::OnAlways(const QString& name, std::function<void()> fn) {
-    QAction* item = Item(name);
-    if (!item) return;
-    connect(item, &QAction::triggered, this, std::move(fn));
-    item->setEnabled(true);
+    if (QAction* item = Item(name)) Attach(name, *item, std::move(fn));
+}
+
+void Commands::Attach(const QString& name, QAction& item, std::function<void()> fn) {
+    connect(&item, &QAction::triggered, this, std::move(fn));
+    item.setEnabled(true);
     handled_.insert(name);
 }
 

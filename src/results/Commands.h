@@ -41,6 +41,8 @@ class Commands : public QObject {
   private:
     void BuildMenus(QMenuBar& bar);
     void BuildToolbar(QMainWindow& window, QWidget& parent);
+    // Puts `fn` behind the item and makes the command available.
+    void Attach(const QString& name, QAction& item, std::function<void()> fn);
 
     std::map<QString, QAction*> items_;
     std::vector<QAction*> buttons_; // by place - 1
